@@ -1,0 +1,38 @@
+# What all targets share, and how a room of the house is declared.
+
+set(CMAKE_CXX_STANDARD 23)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_AUTOMOC ON)
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+add_library(velmora_options INTERFACE)
+target_compile_options(velmora_options INTERFACE -Wall -Wextra -Werror)
+target_compile_definitions(velmora_options INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
+target_include_directories(velmora_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 11)
+  target_compile_options(velmora_options INTERFACE -fcoroutines)
+endif()
+if(VELMORA_SANITIZE)
+  target_compile_options(velmora_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+    -fno-omit-frame-pointer)
+  target_link_options(velmora_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# velmora_room(<name> [USES <room>...] [LINK <library>...])
+# The static library velmora_<name> of all sources in the current folder. USES names the rooms that it
+# may include; LINK the libraries of others.
+function(velmora_room name)
+  cmake_parse_arguments(ROOM "" "" "USES;LINK" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  add_library(velmora_${name} STATIC ${sources})
+  set_target_properties(velmora_${name} PROPERTIES LINKER_LANGUAGE CXX)
+  list(TRANSFORM ROOM_USES PREPEND velmora_)
+  target_link_libraries(velmora_${name} PUBLIC velmora_options ${ROOM_USES} Qt6::Core ${ROOM_LINK})
+endfunction()

@@ -1,0 +1,237 @@
+#pragma once
+
+#include <qcoro/qcorotask.h>
+
+#include <QObject>
+#include <QObjectBindableProperty>
+#include <QSet>
+#include <optional>
+#include <vector>
+
+#include "app/desktop.h"
+#include "contacts/contacts_service.h"
+#include "core/app_config.h"
+#include "core/config_store.h"
+#include "core/records.h"
+#include "core/send_log.h"
+#include "core/surroundings.h"
+#include "history/account_preferences.h"
+#include "history/messages_db.h"
+#include "sending/message_sender.h"
+#include "sending/runner.h"
+
+namespace velmora {
+
+/// The doors to the world outside. All outlive the model.
+struct Doors {
+    ContactSource& contacts;
+    ScriptRunner& scripts;
+    AccountPreferences& accountPreferences;
+    Desktop& desktop;
+};
+
+/// Where the user's files lie.
+struct Places {
+    QString home;                ///< the user's home folder
+    QString applicationSupport;  ///< the folder that holds each application's own folder
+};
+
+/// One of the two ends of the sending hours.
+enum class QuietField { start, end };
+
+/// The one object that the whole interface observes: settings, lists, people, permissions, the run.
+/// Lives on the interface thread. No operation returns an error: problems end up in `alert`,
+/// `dbOK`, `contactsAllowed` or `testResult`.
+class AppModel final : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Loads the settings; nothing else is read before `bootstrap`.
+    AppModel(Doors doors, Surroundings surroundings, Places places);
+    ~AppModel() override;
+
+    // Settings.
+
+    [[nodiscard]] const AppConfig& config() const { return config_; }
+    /// Stores the record and, when it differs from the one before, saves it.
+    void setConfig(const AppConfig& config);
+    /// Changes a copy of the settings by `edit` and stores it.
+    template <class Edit>
+    void editConfig(Edit edit) {
+        AppConfig changed = config_;
+        edit(changed);
+        setConfig(changed);
+    }
+    /// Chooses the number to send from and, when it is another, checks the chosen list against it.
+    /// Does nothing during a run.
+    void setSenderNumber(const QString& number);
+    void acceptTerms();
+    [[nodiscard]] bool termsAccepted() const;
+    /// Today at the field's time; 10:00 when its text cannot be read.
+    [[nodiscard]] QDateTime timeOfDay(QuietField field) const;
+    void setTimeOfDay(const QDateTime& time, QuietField field);
+
+    // Start-up, permissions and the desktop.
+
+    /// The start-up sequence, once; suspends only while access to the address book is asked for.
+    QCoro::Task<> bootstrap();
+    /// Reads the user's sending numbers and with them whether the history can be read.
+    void refreshNumbers();
+    void loadGroups();
+    /// Asks whoever shows windows for the settings window.
+    void openSettings();
+    void openContactsSettings();
+    void openFullDiskAccessSettings();
+    void openMessages();
+    void openPage(ProductPage page);
+
+    [[nodiscard]] bool isAllContacts() const;
+    /// The chosen list, the synthetic All Contacts included.
+    [[nodiscard]] std::optional<GroupInfo> currentGroup() const;
+    /// Whether the Full Disk Access help is to be shown.
+    [[nodiscard]] bool needsFDAHelp() const;
+    /// Whether the choice of a sending number is to be shown.
+    [[nodiscard]] bool needsSenderSetup() const;
+    /// The list's name, a space and today's date.
+    [[nodiscard]] QString defaultBatchName() const;
+
+    // The list and its people.
+
+    /// Chooses a list; the empty text chooses none. Does nothing during a run.
+    void selectGroup(const QString& listID);
+    /// Reads and checks the people of the chosen list, and checks again who was checked in it.
+    void loadList();
+    [[nodiscard]] const std::vector<Recipient>& recipients() const { return recipients_; }
+    /// Indexes into `recipients` of those that the search and the filter leave, in order.
+    [[nodiscard]] std::vector<qsizetype> visibleRecipients() const;
+    [[nodiscard]] const QSet<QString>& selection() const { return selection_; }
+    /// Stores who is checked and, unless it is being restored, remembers it for the chosen list.
+    void setSelection(const QSet<QString>& selection);
+    /// Checks or unchecks one person.
+    void setSelected(const QString& id, bool selected);
+    void selectShown();
+    void clearShown();
+    /// Stores the note as typed; an empty one is removed.
+    void setNote(const QString& id, const QString& note);
+    /// How many people have an issue beyond a new thread.
+    [[nodiscard]] qsizetype attentionCount() const;
+
+    // The message.
+
+    [[nodiscard]] QString currentTemplate() const;
+    void setCurrentTemplate(const QString& text);
+    /// Adds `snippet` at the end of the message.
+    void appendToTemplate(const QString& snippet);
+    [[nodiscard]] bool isPersonalised() const;
+
+    // The run and the test send.
+
+    /// The sentence that says why no run can start, or nothing.
+    [[nodiscard]] std::optional<QString> validationError() const;
+    void requestRun();
+    void confirmRun();
+    void startRun();
+    /// The first checked person that can be sent, in the list's order.
+    [[nodiscard]] std::optional<Recipient> exampleRecipient() const;
+    QCoro::Task<> sendTest();
+
+    [[nodiscard]] Runner& runner() { return runner_; }
+    [[nodiscard]] const Runner& runner() const { return runner_; }
+
+  Q_SIGNALS:
+    void configChanged();
+    void groupsChanged();
+    void recipientsReplaced();                   ///< the whole list is another
+    void recipientTextChanged(qsizetype index);  ///< one person's text (and note) is another
+    void recipientTextsChanged();                ///< everyone's text may be another
+    void selectionChanged();
+    void searchTextChanged();
+    void selectedOnlyChanged();
+    void allContactsCountChanged();
+    void batchNameChanged();
+    void numbersChanged();
+    void contactsAllowedChanged();
+    void dbOKChanged();
+    void dbErrorChanged();
+    void loadingChanged();
+    void alertChanged();
+    void testPhoneChanged();
+    void testResultChanged();
+    void testingChanged();
+    void skippedSenderSetupChanged();
+    void showingFDAHelpChanged();
+    void skippedFDAHelpChanged();
+    void numbersCheckedAtChanged();
+    void bootstrappedChanged();
+    void confirmingRunChanged();
+    void editingNoteIDChanged();
+    void settingsRequested();
+
+  public:
+    // Observable: an assignment of another value announces itself.
+
+    /// The address-book groups, sorted by name; All Contacts is not among them.
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, std::vector<GroupInfo>, groups, &AppModel::groupsChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, QString, searchText, &AppModel::searchTextChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, selectedOnly, false,
+                                         &AppModel::selectedOnlyChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, qint64, allContactsCount, 0,
+                                         &AppModel::allContactsCountChanged)
+    /// The run name.
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, QString, batchName, &AppModel::batchNameChanged)
+    /// The user's own sending numbers, the busiest first.
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, std::vector<NumberInfo>, numbers,
+                               &AppModel::numbersChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, contactsAllowed, true,
+                                         &AppModel::contactsAllowedChanged)
+    /// Whether the Messages history can be opened and read, and the sentence that says why not.
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, dbOK, true, &AppModel::dbOKChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, QString, dbError, &AppModel::dbErrorChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, loading, false, &AppModel::loadingChanged)
+    /// The one sentence of the main window's alert.
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, std::optional<QString>, alert, &AppModel::alertChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, QString, testPhone, &AppModel::testPhoneChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, QString, testResult, &AppModel::testResultChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, testing, false, &AppModel::testingChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, skippedSenderSetup, false,
+                                         &AppModel::skippedSenderSetupChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, showingFDAHelp, false,
+                                         &AppModel::showingFDAHelpChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, skippedFDAHelp, false,
+                                         &AppModel::skippedFDAHelpChanged)
+    /// When the sending numbers were last read successfully.
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, std::optional<Moment>, numbersCheckedAt,
+                               &AppModel::numbersCheckedAtChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, bootstrapped, false,
+                                         &AppModel::bootstrappedChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, confirmingRun, false,
+                                         &AppModel::confirmingRunChanged)
+    /// The person whose personal note is being edited.
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, std::optional<QString>, editingNoteID,
+                               &AppModel::editingNoteIDChanged)
+
+  private:
+    [[nodiscard]] Recipient recipientOf(const ContactRecord& person) const;
+    void checkRecipient(Recipient& recipient, const ContactRecord& person,
+                        std::optional<MessagesDB>& history, const QSet<QString>& sent,
+                        QSet<QString>& seen) const;
+    void restorePicks(const QString& listID);
+    void refreshTexts(const std::optional<QString>& id = std::nullopt);
+
+    Doors doors_;
+    Surroundings surroundings_;
+    Places places_;
+    SupportFolder supportFolder_;
+    ConfigStore configStore_;
+    SendLog sendLog_;
+    ContactsService contacts_;
+    MessageSender sender_;
+    Runner runner_;
+    AppConfig config_;
+    std::vector<Recipient> recipients_;
+    QSet<QString> selection_;
+    QString loadedBatch_;
+    bool suppressPickSave_ = false;
+};
+
+}  // namespace velmora

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <qcoro/qcorotask.h>
+
+#include <QString>
+#include <QStringList>
+#include <expected>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace velmora {
+
+/// One number on a contact's card.
+struct PhoneEntry {
+    std::optional<QString> label;  ///< the raw label as stored: a PhoneLabel or a custom text
+    QString value;                 ///< as the user typed it
+};
+
+/// What is read of one person: all linked cards merged, these properties and nothing else.
+struct ContactRecord {
+    QString identifier;
+    QString givenName;
+    QString familyName;
+    QString nickname;
+    QString organizationName;
+    std::vector<PhoneEntry> phoneNumbers;  ///< in the card's order
+    QStringList emailAddresses;            ///< in the card's order
+};
+
+/// One address-book group.
+struct GroupRecord {
+    QString identifier;
+    QString name;
+};
+
+/// The platform's raw phone labels that outrank others, as its constants spell them.
+namespace PhoneLabel {
+inline const QString mobile = QStringLiteral("_$!<Mobile>!$_");
+inline const QString iPhone = QStringLiteral("iPhone");
+inline const QString main = QStringLiteral("_$!<Main>!$_");
+}  // namespace PhoneLabel
+
+/// Why the address book could not be read: the platform's own sentence.
+struct ContactsError {
+    QString description;
+};
+
+/// Whether the user lets Velmora read the address book. Only `authorized` counts as allowed.
+enum class ContactAccess { notDetermined, restricted, denied, authorized };
+
+/// The door to an address book. Reads are synchronous, afresh each time, on the interface thread.
+class ContactSource {
+  public:
+    virtual ~ContactSource() = default;
+
+    [[nodiscard]] virtual ContactAccess access() const = 0;
+
+    /// Asks for access, the platform deciding whether to prompt. The answer, on the interface
+    /// thread; an error counts as false.
+    [[nodiscard]] virtual QCoro::Task<bool> requestAccess() = 0;
+
+    /// Hands every unified contact to `visit`, in the store's order.
+    [[nodiscard]] virtual std::expected<void, ContactsError> enumerateContacts(
+        const std::function<void(ContactRecord)>& visit) = 0;
+
+    /// The unified members of a group, in the store's order. Fails for an unknown group.
+    [[nodiscard]] virtual std::expected<std::vector<ContactRecord>, ContactsError> membersOfGroup(
+        const QString& identifier) = 0;
+
+    [[nodiscard]] virtual std::expected<std::vector<GroupRecord>, ContactsError> allGroups() = 0;
+
+    /// The word for a raw label in the user's language; a custom label comes back as itself.
+    [[nodiscard]] virtual QString localizedLabel(const QString& label) const = 0;
+};
+
+}  // namespace velmora

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+#include "core/clock.h"
+#include "core/records.h"
+#include "core/support_folder.h"
+
+namespace velmora {
+
+/// One CSV file per run name: the user's record of what went out, and what keeps a later run under
+/// the same name from texting anyone twice. Keeps nothing in memory.
+class SendLog {
+  public:
+    /// `folder` and `clock` outlive the log.
+    SendLog(SupportFolder& folder, const Clock& clock) : folder_(folder), clock_(clock) {}
+
+    /// Adds the entry to the file of its own batch, header first in a new file. A failure is
+    /// dropped; a file that exists but cannot be opened is left alone.
+    void append(const LogEntry& entry);
+
+    /// Replaces the run's file by the header and `entries`. On failure the old file stands.
+    void rewrite(const QString& batch, const std::vector<LogEntry>& entries);
+
+    /// The entries of the run's file in file order, each with a fresh id; empty when there is no
+    /// file or it is no UTF-8. Rows of fewer than 8 fields are skipped; a time that cannot be read
+    /// is now.
+    [[nodiscard]] std::vector<LogEntry> load(const QString& batch);
+
+    /// The phones in the run's file whose status begins with "sent".
+    [[nodiscard]] QSet<QString> alreadySent(const QString& batch);
+
+    /// The path of the run's file.
+    [[nodiscard]] QString logFile(const QString& batch);
+
+  private:
+    SupportFolder& folder_;
+    const Clock& clock_;
+};
+
+/// The run name as a file name without its ending: every Unicode scalar that is no letter, mark,
+/// number,
+/// "-" or "_" becomes "-"; "-" at both ends is removed; "batch" when nothing is left.
+[[nodiscard]] QString safeFileStem(const QString& batch);
+
+/// The rows of a CSV text, each with its fields. Line ends are LF or CRLF; a lone CR is dropped
+/// outside quotes.
+[[nodiscard]] std::vector<QStringList> parseCSV(const QString& text);
+
+/// The entry's line as it stands in the file, line feed included.
+[[nodiscard]] QString csvLine(const LogEntry& entry);
+
+}  // namespace velmora

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QThreadPool>
+
+#include "core/surroundings.h"
+
+namespace velmora {
+
+/// The computer's own time: the wall clock for stamps, the monotonic one with Qt's timers for
+/// waits.
+class SystemClock final : public QObject, public Clock {
+    Q_OBJECT
+
+  public:
+    SystemClock();
+
+    [[nodiscard]] Moment now() const override;
+    [[nodiscard]] double uptime() const override;
+    void after(double seconds, std::function<void()> action) override;
+
+  private:
+    QElapsedTimer timer_;
+};
+
+/// The system's cryptographic random source.
+class SystemRandomSource final : public RandomSource {
+  public:
+    [[nodiscard]] quint64 word() override;
+};
+
+/// A thread of our own for the work, so that a slow disk never queues behind it. Ends after its
+/// work.
+class ThreadBackground final : public QObject, public Background {
+    Q_OBJECT
+
+  public:
+    ThreadBackground();
+    ~ThreadBackground() override;
+
+    void run(std::function<void()> work, std::function<void()> finished) override;
+
+  private:
+    QThreadPool pool_;
+};
+
+}  // namespace velmora
