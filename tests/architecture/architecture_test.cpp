@@ -1,0 +1,113 @@
+// Reads the sources and fails on what no compiler refuses: an include that points up in the house,
+// a toolkit for windows below the views, a platform conditional outside the platform's room.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QMap>
+#include <QRegularExpression>
+#include <QStringList>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString sourceRoot = QStringLiteral(VELMORA_SOURCE_ROOT);
+
+// What each room may include of ours, itself aside.
+const QMap<QString, QStringList> allowed = {
+    {u"core"_s, {}},
+    {u"compose"_s, {u"core"_s}},
+    {u"contacts"_s, {u"core"_s}},
+    {u"history"_s, {u"core"_s}},
+    {u"sending"_s, {u"core"_s, u"history"_s}},
+    {u"app"_s, {u"core"_s, u"compose"_s, u"contacts"_s, u"history"_s, u"sending"_s}},
+    {u"ui"_s, {u"core"_s, u"compose"_s, u"contacts"_s, u"history"_s, u"sending"_s, u"app"_s}},
+};
+
+// The doors and what they are made of: all that a platform may see beside core.
+const QStringList doorHeaders = {
+    u"contacts/contact_source.h"_s,
+    u"history/account_preferences.h"_s,
+    u"sending/script_runner.h"_s,
+    u"sending/activity_source.h"_s,
+    u"app/desktop.h"_s,
+    u"app/product_pages.h"_s,
+    u"ui/symbol_source.h"_s,
+};
+
+struct Source {
+    QString path;  // under src/
+    QString room;  // its first folder; "" for main.cpp
+    QString text;
+};
+
+QList<Source> sources() {
+    QList<Source> found;
+    const QDir root(sourceRoot + u"/src"_s);
+    QDirIterator files(root.path(), {u"*.cpp"_s, u"*.h"_s, u"*.mm"_s}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        QFile file(files.next());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(file.fileName());
+        const QString path = root.relativeFilePath(file.fileName());
+        const QString room = path.contains(u'/') ? path.section(u'/', 0, 0) : QString();
+        found.append({path, room, QString::fromUtf8(file.readAll())});
+    }
+    EXPECT_GT(found.size(), 30) << "the sources were not found under " << qPrintable(root.path());
+    return found;
+}
+
+QStringList includes(const QString& text, QLatin1String opening) {
+    static const QRegularExpression line(u"^#(?:include|import)\\s+([\"<])([^\">]+)"_s,
+                                         QRegularExpression::MultilineOption);
+    QStringList found;
+    for (const QRegularExpressionMatch& match : line.globalMatch(text))
+        if (match.captured(1) == opening)
+            found.append(match.captured(2));
+    return found;
+}
+
+bool mayInclude(const Source& source, const QString& included) {
+    const QString target = included.section(u'/', 0, 0);
+    if (!included.contains(u'/') || source.room.isEmpty() || target == source.room)
+        return true;
+    if (source.room == u"platform")
+        return target == u"core" || doorHeaders.contains(included);
+    return allowed.value(source.room).contains(target);
+}
+
+TEST(Architecture, ArrowsBetweenRoomsPointDown) {
+    for (const Source& source : sources()) {
+        for (const QString& included : includes(source.text, "\""_L1))
+            EXPECT_TRUE(mayInclude(source, included))
+                << qPrintable(source.path) << " may not include " << qPrintable(included);
+    }
+}
+
+TEST(Architecture, OnlyViewsAndPlatformsSeeTheWindowToolkit) {
+    static const QRegularExpression windowClass(
+        u"^(QGui|QQ|QQml|QtGui|QtQml|QtQuick|QWindow|QPixmap|QImage|QPainter|QColor|QFont|QIcon|QDesktop)"_s);
+    for (const Source& source : sources()) {
+        if (source.room.isEmpty() || source.room == u"ui" || source.room == u"platform")
+            continue;
+        for (const QString& included : includes(source.text, "<"_L1))
+            EXPECT_FALSE(windowClass.match(included).hasMatch())
+                << qPrintable(source.path) << " includes " << qPrintable(included);
+    }
+}
+
+TEST(Architecture, PlatformConditionalsStayInThePlatformRoom) {
+    static const QRegularExpression conditional(
+        u"^\\s*#\\s*(?:if|ifdef|ifndef|elif)\\b.*(?:__APPLE__|__linux__|_WIN32|Q_OS_|TARGET_OS)"_s,
+        QRegularExpression::MultilineOption);
+    for (const Source& source : sources()) {
+        const bool isPlatform = source.room == u"platform";
+        EXPECT_TRUE(isPlatform || !conditional.match(source.text).hasMatch())
+            << qPrintable(source.path);
+    }
+}
+
+}  // namespace
