@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/desktop.h"
+#include "app/recipient_search.h"
 #include "contacts/contacts_service.h"
 #include "core/app_config.h"
 #include "core/config_store.h"
@@ -211,16 +212,24 @@ class AppModel final : public QObject {
                                &AppModel::editingNoteIDChanged)
 
   private:
-    [[nodiscard]] Recipient recipientOf(const ContactRecord& person) const;
-    void checkRecipient(Recipient& recipient, const ContactRecord& person,
-                        std::optional<MessagesDB>& history, const QSet<QString>& sent,
-                        QSet<QString>& seen) const;
+    // The list (app_model_list.cpp).
+    [[nodiscard]] std::vector<Recipient> checked(const std::vector<ContactRecord>& people);
+    void publish(std::vector<Recipient> list);
     void restorePicks(const QString& listID);
-    void refreshTexts(const std::optional<QString>& id = std::nullopt);
+    void restoreSelection(const QSet<QString>& selection);
+
+    // The message (app_model_message.cpp).
+    void refreshText(const QString& id);
+    void renderTexts(std::vector<Recipient>& list) const;
+    [[nodiscard]] QString textFor(const Recipient& recipient, const QStringList& versions) const;
+
+    // The run (app_model_run.cpp).
+    void offerRun();
+    [[nodiscard]] bool isQueued(const Recipient& recipient) const;
 
     Doors doors_;
     Surroundings surroundings_;
-    Places places_;
+    QString historyPath_;
     SupportFolder supportFolder_;
     ConfigStore configStore_;
     SendLog sendLog_;
@@ -229,6 +238,7 @@ class AppModel final : public QObject {
     Runner runner_;
     AppConfig config_;
     std::vector<Recipient> recipients_;
+    RecipientSearch search_;
     QSet<QString> selection_;
     QString loadedBatch_;
     bool suppressPickSave_ = false;

@@ -1,0 +1,85 @@
+#include "app/app_model.h"
+
+#include <QLocale>
+#include <algorithm>
+
+#include "app/recipient_check.h"
+
+namespace velmora {
+
+AppModel::AppModel(Doors doors, Surroundings surroundings, Places places)
+    : doors_(doors),
+      surroundings_(surroundings),
+      historyPath_(messagesHistoryPath(places.home)),
+      supportFolder_(places.applicationSupport),
+      configStore_(supportFolder_),
+      sendLog_(supportFolder_, surroundings.clock),
+      contacts_(doors.contacts),
+      sender_(doors.scripts),
+      runner_({sender_, doors.desktop, sendLog_, historyPath_, surroundings}),
+      config_(configStore_.load()) {}
+
+AppModel::~AppModel() = default;
+
+void AppModel::setConfig(const AppConfig& config) {
+    const AppConfig previous = config_;
+    const AppConfig assigned = config;
+    config_ = assigned;
+    Q_EMIT configChanged();
+    // An observer may have stored yet another record by now: the newest is the one to keep.
+    if (assigned != previous)
+        configStore_.save(config_);
+}
+
+void AppModel::setSenderNumber(const QString& number) {
+    if (runner_.isActive() || number == config_.senderNumber)
+        return;
+    editConfig([number](AppConfig& config) { config.senderNumber = number; });
+    loadList();
+}
+
+void AppModel::acceptTerms() {
+    editConfig([](AppConfig& config) { config.termsAccepted = currentTermsVersion; });
+    const Moment now = surroundings_.clock.now();
+    editConfig([now](AppConfig& config) { config.termsAcceptedAt = now; });
+}
+
+bool AppModel::termsAccepted() const {
+    return config_.termsAccepted == currentTermsVersion;
+}
+
+bool AppModel::isAllContacts() const {
+    return config_.selectedGroupID == allContactsID;
+}
+
+std::optional<GroupInfo> AppModel::currentGroup() const {
+    if (isAllContacts())
+        return GroupInfo{allContactsID, QStringLiteral("All Contacts"), allContactsCount};
+    for (const GroupInfo& group : groups.value())
+        if (config_.selectedGroupID == group.id)
+            return group;
+    return std::nullopt;
+}
+
+bool AppModel::needsFDAHelp() const {
+    return showingFDAHelp ||
+           (termsAccepted() && bootstrapped && contactsAllowed && !dbOK && !skippedFDAHelp);
+}
+
+bool AppModel::needsSenderSetup() const {
+    return termsAccepted() && bootstrapped && contactsAllowed && dbOK && !needsFDAHelp() &&
+           config_.senderNumber.isEmpty() && !skippedSenderSetup;
+}
+
+QString AppModel::defaultBatchName() const {
+    const std::optional<GroupInfo> group = currentGroup();
+    const QDate today = localTime(surroundings_.clock.now()).date();
+    return (group ? group->name : QStringLiteral("run")) + u' ' +
+           QLocale().toString(today, QStringLiteral("yyyy-MM-dd"));
+}
+
+qsizetype AppModel::attentionCount() const {
+    return std::ranges::count_if(recipients_, needsAttention, &Recipient::issue);
+}
+
+}  // namespace velmora
