@@ -54,6 +54,8 @@ class Runner final : public QObject {
     };
 
     explicit Runner(Tools tools);
+    /// Ends an active run on the spot; nothing touches the runner afterwards. What of the run still
+    /// waits is freed when the clock calls it, so the clock goes last.
     ~Runner() override;
 
     /// True while a run is running, paused or stopping.
@@ -110,15 +112,29 @@ class Runner final : public QObject {
         LogEntry entry;
         std::optional<SentRecord> record;
     };
-    struct Pause;
+    class Pause;
 
-    // The run (runner.cpp).
+    // What a suspended task keeps an eye on. Without it the runner is gone: the task then unwinds
+    // by throwing Gone, which ends with the task, and touches nothing of the runner any more. So
+    // every await of something other than the runner's own tasks is followed by `unwindWithout`.
+    struct Life {};
+    struct Gone {};
+    static void unwindWithout(const std::weak_ptr<Life>& life);
+
+    // Seconds between two readings of the unconfirmed sends.
+    static constexpr double checkInterval = 5;
+
+    // The run (runner.cpp). A false answer ends it.
+    [[nodiscard]] std::vector<Item> itemsToSend(const std::vector<Item>& items, qint64 limit) const;
     QCoro::Task<> run(std::vector<Item> queue);
-    QCoro::Task<bool> sendingHours();
     QCoro::Task<bool> handleItem(Item item);
-    QCoro::Task<> finalCheck();
+    QCoro::Task<bool> sendingHours();
+    QCoro::Task<bool> waitForNext();
     QCoro::Task<bool> pace(double seconds);
+    QCoro::Task<> finalCheck();
     QCoro::Task<bool> pause(QString reason);
+    QCoro::Task<> sleep(double seconds);
+    void endPause(bool goOn);
     void finish();
     [[nodiscard]] QString summary() const;
 
@@ -128,9 +144,16 @@ class Runner final : public QObject {
     QCoro::Task<bool> checkLine(LogEntry entry, Item item);
     QCoro::Task<bool> checkFailures();
     QCoro::Task<> checkPending();
+    QCoro::Task<LogEntry> settle(Pending send, SentRecord record);
+    [[nodiscard]] LogEntry newEntry(const Item& item) const;
+    void countFailure();
     void replaceEntry(const QUuid& id, const LogEntry& entry);
+    void settleLog();
+
+    [[nodiscard]] Clock& clock() const { return tools_.surroundings.clock; }
 
     Tools tools_;
+    std::shared_ptr<Life> life_ = std::make_shared<Life>();
     AppConfig config_;
     bool sendAnyway_ = false;
     bool stopRequested_ = false;
