@@ -15,20 +15,22 @@ template <class Item, class NameOf>
 void sortByName(std::vector<Item>& items, NameOf nameOf) {
     struct Keyed {
         QCollatorSortKey key;
-        Item item;
+        size_t position;
     };
     const QCollator collator = nameCollator();
     std::vector<Keyed> keyed;
     keyed.reserve(items.size());
-    for (Item& item : items) {
-        QCollatorSortKey key = collator.sortKey(nameOf(item));
-        keyed.push_back({std::move(key), std::move(item)});
-    }
-    std::ranges::stable_sort(
-        keyed, [](const Keyed& left, const Keyed& right) { return left.key < right.key; });
-    items.clear();
-    for (Keyed& each : keyed)
-        items.push_back(std::move(each.item));
+    for (const Item& item : items)
+        keyed.push_back({collator.sortKey(nameOf(item)), keyed.size()});
+    std::ranges::sort(keyed, [](const Keyed& left, const Keyed& right) {
+        const int order = left.key.compare(right.key);
+        return order != 0 ? order < 0 : left.position < right.position;
+    });
+    std::vector<Item> sorted;
+    sorted.reserve(items.size());
+    for (const Keyed& each : keyed)
+        sorted.push_back(std::move(items[each.position]));
+    items = std::move(sorted);
 }
 
 }  // namespace velmora
