@@ -5,7 +5,9 @@
 namespace velmora {
 
 QCollator nameCollator() {
-    QCollator collator{QLocale()};
+    // The locale of no language compares by code units, whatever is asked of letter case.
+    const QLocale user;
+    QCollator collator(user.language() == QLocale::C ? QLocale(QLocale::English) : user);
     collator.setCaseSensitivity(Qt::CaseInsensitive);
     return collator;
 }
