@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <map>
+#include <optional>
+#include <vector>
+
+#include "platform/rehearsal/history_writer.h"
+
+namespace velmora {
+
+/// A home folder of the test's own, with an address book, the settings of Messages and a history.
+/// Whatever cannot be written fails the test.
+class RehearsalHome {
+  public:
+    RehearsalHome();
+
+    [[nodiscard]] QString path() const { return folder_.path(); }
+    [[nodiscard]] QString applicationSupport() const;
+    [[nodiscard]] QString historyPath() const;
+
+    void writeContacts(const QByteArray& json);
+    void writeMessages(const QByteArray& json);
+
+    /// The history, made at the first call.
+    [[nodiscard]] HistoryWriter& history();
+
+    /// Adds a message to the history and returns its row id.
+    qint64 record(const HistoryMessage& message, ChatStyle style = ChatStyle::oneToOne);
+
+  private:
+    void write(const QString& name, const QByteArray& bytes);
+
+    QTemporaryDir folder_;
+    std::optional<HistoryWriter> history_;
+};
+
+/// Members of a group by its identifier and name.
+struct RehearsalGroup {
+    QString identifier;
+    QString name;
+    QStringList members;
+};
+
+/// The JSON of one person with a mobile number; with an empty `phone`, without any.
+[[nodiscard]] QByteArray person(const QString& identifier, const QString& givenName,
+                                const QString& familyName, const QString& phone = {},
+                                const QStringList& emailAddresses = {});
+
+/// The JSON of an address book with these people (each as `person` gives it) and groups.
+[[nodiscard]] QByteArray addressBook(const std::vector<QByteArray>& people,
+                                     const std::vector<RehearsalGroup>& groups = {});
+
+/// The JSON of settings of Messages whose texts leave on `line`, with what else stands under some
+/// people's numbers as JSON: {{"+12125550123", R"({"iMessage": {"error": 22}})"}}.
+[[nodiscard]] QByteArray messagesOnLine(const QString& line,
+                                        const std::map<QString, QByteArray>& people = {});
+
+}  // namespace velmora
