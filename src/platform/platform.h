@@ -8,6 +8,7 @@
 #include "core/clock.h"
 #include "history/account_preferences.h"
 #include "sending/script_runner.h"
+#include "ui/symbol_source.h"
 
 namespace velmora {
 
@@ -17,6 +18,8 @@ struct Platform {
     std::unique_ptr<ScriptRunner> scripts;
     std::unique_ptr<AccountPreferences> accountPreferences;
     std::unique_ptr<Desktop> desktop;
+    std::unique_ptr<SymbolSource>
+        symbols;                 ///< the system's symbols; none where the views bring theirs
     QString home;                ///< the user's home folder
     QString applicationSupport;  ///< the folder that holds each application's own folder
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QVariant>
 #include <optional>
 
 namespace velmora {
@@ -12,6 +13,15 @@ struct ScriptResult {
     Outcome outcome = Outcome::success;
     std::optional<QString> message;  ///< the platform's text on a failure, when it gave one
 };
+
+/// The result for an error that the platform reported; `message` is what its error dictionary holds
+/// as the message, which counts only when it is text.
+[[nodiscard]] inline ScriptResult scriptFailure(const QVariant& message) {
+    ScriptResult result{ScriptResult::Outcome::failure, std::nullopt};
+    if (message.typeId() == QMetaType::QString)
+        result.message = message.toString();
+    return result;
+}
 
 /// The door to the Messages application: runs a script's source text.
 class ScriptRunner {
