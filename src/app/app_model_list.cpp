@@ -30,6 +30,7 @@ void AppModel::loadList() {
     loadGroups();
     const auto people = contacts_.contactsInList(*listID);
     if (people) {
+        loadedBatch_ = batchName;
         publish(checked(*people));
         restorePicks(*listID);
         if (!runner_.isActive()) {
@@ -44,7 +45,6 @@ void AppModel::loadList() {
 
 std::vector<Recipient> AppModel::checked(const std::vector<ContactRecord>& people) {
     auto history = MessagesDB::open(historyPath_);
-    loadedBatch_ = batchName;
     RecipientCheck check({.contacts = contacts_,
                           .history = history ? std::optional(std::move(*history)) : std::nullopt,
                           .senderNumber = config_.senderNumber,

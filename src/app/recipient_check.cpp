@@ -23,7 +23,7 @@ Recipient recipientOf(const ContactRecord& person, const std::optional<BestPhone
     recipient.id = person.identifier;
     recipient.firstName = person.givenName.isEmpty() ? person.nickname : person.givenName;
     recipient.name = displayName(person, recipient.firstName);
-    recipient.company = trimmed(person.organizationName);
+    recipient.company = trimmedWhiteSpace(person.organizationName).toString();
     if (number) {
         recipient.phone = number->phone;
         recipient.phoneLabel = number->label;

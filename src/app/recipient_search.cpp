@@ -31,7 +31,7 @@ RecipientSearch::RecipientSearch(const std::vector<Recipient>& recipients) {
 }
 
 std::vector<qsizetype> RecipientSearch::find(const QString& typed) const {
-    const QString wanted = trimmedSpacesAndTabs(typed);
+    const QString wanted = trimmedSpacesAndTabs(typed).toString();
     const QString digits = digitsOf(wanted);
     const QStringMatcher text(folded(wanted));
     const QStringMatcher number(digits);
