@@ -1,0 +1,101 @@
+#pragma once
+
+#include <qcoro/qcorotask.h>
+
+#include <QObject>
+#include <QString>
+#include <QtQmlIntegration>
+#include <optional>
+
+#include "app/app_model.h"
+
+namespace velmora {
+
+/// What the main window shows around its panes: title, banner, middle column, alert and sheet; and
+/// what its menus do. All of it is read from the application model at each look.
+class MainWindowModel final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Belongs to the presentation")
+    Q_PROPERTY(QString title READ title NOTIFY changed)
+    Q_PROPERTY(QString subtitle READ subtitle NOTIFY changed)
+    Q_PROPERTY(bool showsList READ showsList NOTIFY changed)
+    Q_PROPERTY(QString emptyIcon READ emptyIcon NOTIFY changed)
+    Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY changed)
+    Q_PROPERTY(QString emptyMessage READ emptyMessage NOTIFY changed)
+    Q_PROPERTY(QString emptyButton READ emptyButton NOTIFY changed)
+    Q_PROPERTY(Banner banner READ banner NOTIFY changed)
+    Q_PROPERTY(QString bannerSymbol READ bannerSymbol NOTIFY changed)
+    Q_PROPERTY(QString bannerText READ bannerText NOTIFY changed)
+    Q_PROPERTY(QString bannerButton READ bannerButton NOTIFY changed)
+    Q_PROPERTY(bool alertShown READ alertShown NOTIFY changed)
+    Q_PROPERTY(QString alertText READ alertText NOTIFY changed)
+    Q_PROPERTY(Sheet sheet READ sheet NOTIFY changed)
+    Q_PROPERTY(bool commandsEnabled READ commandsEnabled NOTIFY changed)
+    Q_PROPERTY(bool paused READ paused NOTIFY changed)
+
+  public:
+    enum class Banner { none, fullDiskAccess, sendingNumber };
+    Q_ENUM(Banner)
+
+    /// The sheets that can cover the window; at most one at a time.
+    enum class Sheet { none, terms, confirm, fullDiskAccess, senderSetup };
+    Q_ENUM(Sheet)
+
+    explicit MainWindowModel(AppModel& model);
+
+    /// The chosen list's name, or the product's when none is chosen.
+    [[nodiscard]] QString title() const;
+    /// How many people are checked and how many need attention; empty without a list or people.
+    [[nodiscard]] QString subtitle() const;
+
+    /// Whether the middle column shows the chosen list; else it shows the empty state below.
+    [[nodiscard]] bool showsList() const;
+    [[nodiscard]] QString emptyIcon() const;
+    [[nodiscard]] QString emptyTitle() const;
+    [[nodiscard]] QString emptyMessage() const;
+    /// Empty where there is nothing to do.
+    [[nodiscard]] QString emptyButton() const;
+    Q_INVOKABLE void openContactsSettings();
+
+    [[nodiscard]] Banner banner() const;
+    [[nodiscard]] QString bannerSymbol() const;
+    [[nodiscard]] QString bannerText() const;
+    [[nodiscard]] QString bannerButton() const;
+    /// Does what the banner's button says.
+    Q_INVOKABLE void followBanner();
+
+    [[nodiscard]] bool alertShown() const;
+    [[nodiscard]] QString alertText() const;
+    Q_INVOKABLE void dismissAlert();
+
+    /// The first sheet, in the order of the enumeration, whose condition holds.
+    [[nodiscard]] Sheet sheet() const;
+
+    /// Whether the commands that act on the window's content are offered: nothing covers it.
+    [[nodiscard]] bool commandsEnabled() const;
+    /// Whether a run is paused: then Command-Return belongs to its Resume button.
+    [[nodiscard]] bool paused() const;
+    Q_INVOKABLE void selectShown();
+    Q_INVOKABLE void clearShown();
+    Q_INVOKABLE void reloadList();
+    Q_INVOKABLE void requestRun();
+    Q_INVOKABLE void openSettings();
+    Q_INVOKABLE void openTerms();
+    Q_INVOKABLE void openSafeguards();
+
+    /// Starts the application model, at the first call only.
+    void windowShown();
+    /// Looks again whether the history can be read, if it could not be so far.
+    void applicationActivated();
+
+  Q_SIGNALS:
+    void changed();
+    void settingsRequested();
+
+  private:
+    AppModel& model_;
+    std::optional<QCoro::Task<>> startUp_;
+};
+
+}  // namespace velmora
