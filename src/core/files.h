@@ -11,6 +11,9 @@ struct FileError {
     QString description;
 };
 
+/// The whole content of the file.
+[[nodiscard]] std::expected<QByteArray, FileError> readFile(const QString& path);
+
 /// Replaces the file by `bytes` in one step: a reader sees the old file or the whole new one. The
 /// new file is readable by its owner alone and on the disk when this returns. On failure the old
 /// file stands.
@@ -18,7 +21,7 @@ struct FileError {
                                                          const QByteArray& bytes);
 
 /// Adds `bytes` at the end of an existing file in one write. Fails when the file cannot be opened
-/// for writing, and never creates one.
+/// for writing, and never creates one. What a failed write left behind is cut off again.
 [[nodiscard]] std::expected<void, FileError> appendToFile(const QString& path,
                                                           const QByteArray& bytes);
 

@@ -4,13 +4,6 @@
 
 namespace velmora {
 
-namespace {
-
-// 2001-01-01 00:00:00 UTC in the seconds of 1970.
-constexpr double referenceEpoch = 978307200.0;
-
-}  // namespace
-
 Moment momentOf(const QDateTime& dateTime) {
     return {static_cast<double>(dateTime.toMSecsSinceEpoch()) / 1000.0 - referenceEpoch};
 }

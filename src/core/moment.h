@@ -5,6 +5,9 @@
 
 namespace velmora {
 
+/// 2001-01-01 00:00:00 UTC, from which moments count, in seconds since 1970-01-01 00:00:00 UTC.
+inline constexpr double referenceEpoch = 978307200.0;
+
 /// An absolute point in time: seconds since 2001-01-01 00:00:00 UTC, with fractions. A QDateTime
 /// stops at milliseconds, which is too coarse for what is stored and for what the history is asked.
 struct Moment {

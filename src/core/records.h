@@ -70,6 +70,11 @@ struct SentRecord {
     [[nodiscard]] bool isConclusive() const { return error != 0 || sent || delivered; }
 };
 
+/// True for a log status that keeps a person from being texted again under the same run name.
+[[nodiscard]] inline bool isSentStatus(QStringView status) {
+    return status.startsWith(u"sent");
+}
+
 /// One line of the send log.
 struct LogEntry {
     QUuid id;     ///< identity in this process; made afresh whenever the line is read, never stored
@@ -83,7 +88,7 @@ struct LogEntry {
     QString detail;   ///< a sentence on the status; may be empty
 
     /// True for every status that keeps a person from being texted again under this run name.
-    [[nodiscard]] bool countsAsSent() const { return status.startsWith(u"sent"); }
+    [[nodiscard]] bool countsAsSent() const { return isSentStatus(status); }
 };
 
 /// The service through which a text is sent.

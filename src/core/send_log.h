@@ -2,10 +2,10 @@
 
 #include <QSet>
 #include <QString>
-#include <QStringList>
 #include <vector>
 
 #include "core/clock.h"
+#include "core/csv.h"
 #include "core/records.h"
 #include "core/support_folder.h"
 
@@ -42,13 +42,8 @@ class SendLog {
 };
 
 /// The run name as a file name without its ending: every Unicode scalar that is no letter, mark,
-/// number,
-/// "-" or "_" becomes "-"; "-" at both ends is removed; "batch" when nothing is left.
+/// number, "-" or "_" becomes "-"; "-" at both ends is removed; "batch" when nothing is left.
 [[nodiscard]] QString safeFileStem(const QString& batch);
-
-/// The rows of a CSV text, each with its fields. Line ends are LF or CRLF; a lone CR is dropped
-/// outside quotes.
-[[nodiscard]] std::vector<QStringList> parseCSV(const QString& text);
 
 /// The entry's line as it stands in the file, line feed included.
 [[nodiscard]] QString csvLine(const LogEntry& entry);

@@ -12,8 +12,6 @@ SystemClock::SystemClock() {
 }
 
 Moment SystemClock::now() const {
-    // 2001-01-01 00:00:00 UTC in the seconds of 1970.
-    constexpr double referenceEpoch = 978307200.0;
     const auto sinceEpoch = std::chrono::system_clock::now().time_since_epoch();
     const auto whole = std::chrono::floor<std::chrono::seconds>(sinceEpoch);
     const std::chrono::duration<double> rest = sinceEpoch - whole;

@@ -1,0 +1,180 @@
+#include <cmath>
+#include <limits>
+#include <nlohmann/json.hpp>
+#include <string>
+
+#include "core/config_store.h"
+
+namespace velmora {
+
+namespace {
+
+using nlohmann::json;
+
+// The one list of the keys: calls `visit` with each key and its field until one call gives false.
+template <class Config, class Visit>
+bool visitFields(Config& config, const Visit& visit) {
+    return visit("senderNumber", config.senderNumber) && visit("delayMin", config.delayMin) &&
+           visit("delayMax", config.delayMax) && visit("maxPerRun", config.maxPerRun) &&
+           visit("quietStart", config.quietStart) && visit("quietEnd", config.quietEnd) &&
+           visit("maxFailures", config.maxFailures) && visit("verifyWait", config.verifyWait) &&
+           visit("selectedGroupID", config.selectedGroupID) &&
+           visit("templates", config.templates) && visit("notes", config.notes) &&
+           visit("picks", config.picks) && visit("termsAccepted", config.termsAccepted) &&
+           visit("termsAcceptedAt", config.termsAcceptedAt);
+}
+
+bool read(const json& value, QString& field) {
+    const auto* text = value.get_ptr<const std::string*>();
+    if (text != nullptr)
+        field = QString::fromStdString(*text);
+    return text != nullptr;
+}
+
+bool read(const json& value, double& field) {
+    if (value.is_number())
+        field = value.get<double>();
+    return value.is_number();
+}
+
+bool read(const json& value, Moment& field) {
+    return read(value, field.seconds);
+}
+
+bool read(const json& value, qint64& field) {
+    if (!value.is_number())
+        return false;
+    if (value.is_number_unsigned() &&
+        value.get<quint64>() > quint64{std::numeric_limits<qint64>::max()})
+        return false;
+    if (value.is_number_float()) {
+        const double number = value.get<double>();
+        constexpr double limit = 9223372036854775808.0;
+        if (number != std::floor(number) || number < -limit || number >= limit)
+            return false;
+    }
+    field = value.get<qint64>();
+    return true;
+}
+
+bool read(const json& value, QStringList& field) {
+    if (!value.is_array())
+        return false;
+    for (const json& element : value) {
+        if (!read(element, field.emplaceBack()))
+            return false;
+    }
+    return true;
+}
+
+template <class Value>
+bool read(const json& value, QMap<QString, Value>& field) {
+    if (!value.is_object())
+        return false;
+    for (const auto& [key, element] : value.items()) {
+        if (!read(element, field[QString::fromStdString(key)]))
+            return false;
+    }
+    return true;
+}
+
+template <class Value>
+bool read(const json& value, std::optional<Value>& field) {
+    return read(value, field.emplace());
+}
+
+json written(const QString& field) {
+    return field.toStdString();
+}
+
+template <class Number>
+    requires std::is_arithmetic_v<Number>
+json written(Number field) {
+    return field;
+}
+
+json written(Moment field) {
+    return field.seconds;
+}
+
+json written(const QStringList& field) {
+    json list = json::array();
+    for (const QString& element : field)
+        list.push_back(written(element));
+    return list;
+}
+
+template <class Value>
+json written(const QMap<QString, Value>& field) {
+    json object = json::object();
+    for (auto each = field.begin(); each != field.end(); ++each)
+        object[each.key().toStdString()] = written(each.value());
+    return object;
+}
+
+template <class Value>
+json written(const std::optional<Value>& field) {
+    return field ? written(*field) : json();
+}
+
+bool isKnownKey(const std::string& name) {
+    static const AppConfig config;
+    return !visitFields(config, [&](const char* key, const auto&) { return name != key; });
+}
+
+// Builds nothing of unknown keys and of what is nested deeper than any field, so that a hostile
+// file cannot fill the memory. Nothing when a known field is nested too deep.
+std::optional<json> parsed(const QByteArray& text) {
+    constexpr int deepestList = 2;
+    bool wanted = true;
+    bool isTooDeep = false;
+    const auto keep = [&](int depth, json::parse_event_t event, json& value) {
+        if (event == json::parse_event_t::key && depth == 1) {
+            wanted = isKnownKey(value.get_ref<const std::string&>());
+            return wanted;
+        }
+        const bool begins =
+            event == json::parse_event_t::array_start || event == json::parse_event_t::object_start;
+        if (!begins || depth <= deepestList)
+            return true;
+        isTooDeep |= wanted;
+        return false;
+    };
+    json object = json::parse(text.begin(), text.end(), keep, false);
+    if (!object.is_object() || isTooDeep)
+        return std::nullopt;
+    return object;
+}
+
+}  // namespace
+
+std::optional<AppConfig> decodeConfig(const QByteArray& text) {
+    const std::optional<json> object = parsed(text);
+    AppConfig config;
+    const auto readField = [&](const char* key, auto& field) {
+        const auto found = object->find(key);
+        return found == object->end() || found->is_null() || read(*found, field);
+    };
+    if (!object || !visitFields(config, readField))
+        return std::nullopt;
+    return config;
+}
+
+std::optional<QByteArray> encodeConfig(const AppConfig& config) {
+    constexpr int indentation = 2;
+    json object = json::object();
+    const auto writeField = [&](const char* key, const auto& field) {
+        json value = written(field);
+        if (value.is_number_float() && !std::isfinite(value.get<double>()))
+            return false;
+        if (!value.is_null())
+            object[key] = std::move(value);
+        return true;
+    };
+    if (!visitFields(config, writeField))
+        return std::nullopt;
+    return QByteArray::fromStdString(
+        object.dump(indentation, ' ', false, json::error_handler_t::replace));
+}
+
+}  // namespace velmora

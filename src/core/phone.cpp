@@ -1,0 +1,48 @@
+#include "core/phone.h"
+
+#include <QTextBoundaryFinder>
+#include <array>
+
+#include "core/white_space.h"
+
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+
+QString displayPhone(const QString& phone) {
+    if (!phone.startsWith(u"+1"))
+        return phone;
+    constexpr size_t characters = 12;
+    std::array<qsizetype, characters + 1> starts{};
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, phone);
+    for (size_t index = 1; index <= characters; ++index) {
+        starts[index] = finder.toNextBoundary();
+        if (starts[index] < 0)
+            return phone;
+    }
+    const bool beginsWithPlusOne = starts[1] == 1 && starts[2] == 2;
+    if (!beginsWithPlusOne || starts[characters] != phone.size())
+        return phone;
+    const auto between = [&](size_t first, size_t last) {
+        return phone.sliced(starts[first], starts[last] - starts[first]);
+    };
+    return u'(' + between(2, 5) + u") "_s + between(5, 8) + u'-' + between(8, 12);
+}
+
+std::optional<QString> normalizePhone(const QString& typed) {
+    const QStringView trimmed = trimmedWhiteSpace(typed);
+    QString digits;
+    for (const QChar character : trimmed)
+        if (character >= u'0' && character <= u'9')
+            digits += character;
+    const qsizetype count = digits.size();
+    if (trimmed.startsWith(u'+') && count >= 8 && count <= 15)
+        return u'+' + digits;
+    if (count == 10)
+        return u"+1"_s + digits;
+    if (count == 11 && digits.startsWith(u'1'))
+        return u'+' + digits;
+    return std::nullopt;
+}
+
+}  // namespace velmora

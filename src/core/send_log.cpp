@@ -1,0 +1,131 @@
+#include "core/send_log.h"
+
+#include <QFile>
+
+#include "core/csv.h"
+#include "core/files.h"
+#include "core/fresh_id.h"
+#include "core/log_time.h"
+
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+
+namespace {
+
+enum Column : size_t { time, batch, name, phone, service, line, status, detail, columnCount };
+
+const QString& headerLine() {
+    static const QString text = u"time,batch,name,phone,service,line,status,detail\n"_s;
+    return text;
+}
+
+// What ends a last line that was cut off in the middle, such as by a loss of power, so that the
+// next line does not become a part of it.
+QByteArray endOfTornLine(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() == 0 || !file.seek(file.size() - 1) ||
+        file.read(1) == "\n" || !file.seek(0))
+        return {};
+    const bool isQuoteOpen = file.readAll().count('"') % 2 != 0;
+    return isQuoteOpen ? "\"\n" : "\n";
+}
+
+// Calls `take` with the reader at each row of the file that is an entry.
+template <class Take>
+void readEntryRows(const QString& path, const Take& take) {
+    const auto bytes = readFile(path);
+    if (!bytes || !bytes->isValidUtf8())
+        return;
+    const QString text = QString::fromUtf8(*bytes);
+    CSVReader rows(text);
+    if (!rows.nextRow())
+        return;
+    while (rows.nextRow()) {
+        if (rows.fieldCount() >= Column::columnCount)
+            take(rows);
+    }
+}
+
+// The text as a string of its own, or `previous` once more: most columns repeat from row to row.
+QString sharedWith(const QString& previous, QStringView text) {
+    return previous == text ? previous : text.toString();
+}
+
+LogEntry entryOf(const CSVReader& row, const LogEntry& previous) {
+    return {.id = freshID(),
+            .time = {},
+            .batch = sharedWith(previous.batch, row.field(Column::batch)),
+            .name = row.field(Column::name).toString(),
+            .phone = row.field(Column::phone).toString(),
+            .service = sharedWith(previous.service, row.field(Column::service)),
+            .line = sharedWith(previous.line, row.field(Column::line)),
+            .status = sharedWith(previous.status, row.field(Column::status)),
+            .detail = sharedWith(previous.detail, row.field(Column::detail))};
+}
+
+}  // namespace
+
+void SendLog::append(const LogEntry& entry) {
+    const QString path = logFile(entry.batch);
+    const QByteArray bytes = csvLine(entry).toUtf8();
+    const auto done = QFile::exists(path) ? appendToFile(path, endOfTornLine(path) + bytes)
+                                          : replaceFile(path, headerLine().toUtf8() + bytes);
+    static_cast<void>(done);
+}
+
+void SendLog::rewrite(const QString& batch, const std::vector<LogEntry>& entries) {
+    QString text = headerLine();
+    for (const LogEntry& entry : entries)
+        text += csvLine(entry);
+    static_cast<void>(replaceFile(logFile(batch), text.toUtf8()));
+}
+
+std::vector<LogEntry> SendLog::load(const QString& batch) {
+    std::vector<LogEntry> entries;
+    LogEntry previous;
+    readEntryRows(logFile(batch), [&](const CSVReader& row) {
+        previous = entryOf(row, previous);
+        const auto time = parseLogTime(row.field(Column::time));
+        previous.time = time ? *time : clock_.now();
+        entries.push_back(previous);
+    });
+    return entries;
+}
+
+QSet<QString> SendLog::alreadySent(const QString& batch) {
+    QSet<QString> phones;
+    readEntryRows(logFile(batch), [&](const CSVReader& row) {
+        if (isSentStatus(row.field(Column::status)))
+            phones.insert(row.field(Column::phone).toString());
+    });
+    return phones;
+}
+
+QString SendLog::logFile(const QString& batch) {
+    return folder_.logs() + u'/' + safeFileStem(batch) + u".csv"_s;
+}
+
+QString safeFileStem(const QString& batch) {
+    QString stem;
+    for (const char32_t scalar : batch.toUcs4()) {
+        const bool isKept = QChar::isLetterOrNumber(scalar) || QChar::isMark(scalar) ||
+                            scalar == U'-' || scalar == U'_';
+        if (isKept)
+            stem += QChar::fromUcs4(scalar);
+        else
+            stem += u'-';
+    }
+    while (stem.startsWith(u'-'))
+        stem.remove(0, 1);
+    while (stem.endsWith(u'-'))
+        stem.chop(1);
+    return stem.isEmpty() ? u"batch"_s : stem;
+}
+
+QString csvLine(const LogEntry& entry) {
+    return formatCSV({formatLogTime(entry.time), entry.batch, entry.name, entry.phone,
+                      entry.service, entry.line, entry.status, entry.detail});
+}
+
+}  // namespace velmora
