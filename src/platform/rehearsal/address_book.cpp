@@ -1,0 +1,118 @@
+#include "platform/rehearsal/address_book.h"
+
+#include <QHash>
+#include <QSet>
+#include <algorithm>
+#include <ranges>
+
+namespace velmora {
+
+namespace {
+
+bool isGranted(const QJsonObject& root) {
+    return root.value(QStringLiteral("access")).toString(QStringLiteral("granted")) ==
+           QStringLiteral("granted");
+}
+
+ContactRecord contactOf(JsonFile& file, const QJsonObject& object) {
+    ContactRecord contact{
+        .identifier = file.text(object, QStringLiteral("identifier")),
+        .givenName = file.text(object, QStringLiteral("givenName")),
+        .familyName = file.text(object, QStringLiteral("familyName")),
+        .nickname = file.text(object, QStringLiteral("nickname")),
+        .organizationName = file.text(object, QStringLiteral("organizationName")),
+        .phoneNumbers = {},
+        .emailAddresses = file.texts(object, QStringLiteral("emailAddresses")),
+    };
+    for (const QJsonObject& entry : file.objects(object, QStringLiteral("phoneNumbers")))
+        contact.phoneNumbers.push_back({.label = file.optionalText(entry, QStringLiteral("label")),
+                                        .value = file.text(entry, QStringLiteral("value"))});
+    return contact;
+}
+
+}  // namespace
+
+AddressBook::AddressBook(const QString& home)
+    : path_(home + QStringLiteral("/Library/Contacts/contacts.json")) {}
+
+ContactAccess AddressBook::access() const {
+    const auto file = JsonFile::read(path_);
+    return !file || isGranted(file->root()) ? ContactAccess::authorized : ContactAccess::denied;
+}
+
+QCoro::Task<bool> AddressBook::requestAccess() {
+    co_return access() == ContactAccess::authorized;
+}
+
+std::expected<AddressBook::Book, ContactsError> AddressBook::read() const {
+    auto file = JsonFile::read(path_);
+    if (!file)
+        return std::unexpected(ContactsError{file.error().description});
+    if (!isGranted(file->root()))
+        return std::unexpected(
+            ContactsError{QStringLiteral("Access to the address book was denied.")});
+    Book book;
+    for (const QJsonObject& object : file->objects(file->root(), QStringLiteral("contacts")))
+        book.contacts.push_back(contactOf(*file, object));
+    for (const QJsonObject& object : file->objects(file->root(), QStringLiteral("groups")))
+        book.groups.push_back(
+            {.record = {.identifier = file->text(object, QStringLiteral("identifier")),
+                        .name = file->text(object, QStringLiteral("name"))},
+             .members = file->texts(object, QStringLiteral("members"))});
+    if (file->error())
+        return std::unexpected(ContactsError{file->error()->description});
+    return book;
+}
+
+std::expected<void, ContactsError> AddressBook::enumerateContacts(
+    const std::function<void(ContactRecord)>& visit) {
+    auto book = read();
+    if (!book)
+        return std::unexpected(book.error());
+    for (ContactRecord& contact : book->contacts)
+        visit(std::move(contact));
+    return {};
+}
+
+std::expected<std::vector<ContactRecord>, ContactsError> AddressBook::membersOfGroup(
+    const QString& identifier) {
+    auto book = read();
+    if (!book)
+        return std::unexpected(book.error());
+    const auto group = std::ranges::find(book->groups, identifier,
+                                         [](const Group& each) { return each.record.identifier; });
+    if (group == book->groups.end())
+        return std::unexpected(
+            ContactsError{QStringLiteral("The group is no longer in the address book.")});
+    const QSet<QString> members(group->members.begin(), group->members.end());
+    std::vector<ContactRecord> found;
+    for (ContactRecord& contact : book->contacts) {
+        if (members.contains(contact.identifier))
+            found.push_back(std::move(contact));
+    }
+    return found;
+}
+
+std::expected<std::vector<GroupRecord>, ContactsError> AddressBook::allGroups() {
+    const auto book = read();
+    if (!book)
+        return std::unexpected(book.error());
+    std::vector<GroupRecord> groups;
+    for (const Group& group : book->groups)
+        groups.push_back(group.record);
+    return groups;
+}
+
+QString AddressBook::localizedLabel(const QString& label) const {
+    static const QHash<QString, QString> words{
+        {PhoneLabel::mobile, QStringLiteral("mobile")},
+        {PhoneLabel::iPhone, QStringLiteral("iPhone")},
+        {PhoneLabel::main, QStringLiteral("main")},
+        {QStringLiteral("_$!<Home>!$_"), QStringLiteral("home")},
+        {QStringLiteral("_$!<Work>!$_"), QStringLiteral("work")},
+        {QStringLiteral("_$!<Other>!$_"), QStringLiteral("other")},
+    };
+    return words.value(label, label);
+}
+
+}  // namespace velmora

@@ -1,0 +1,100 @@
+#include "platform/rehearsal/json_file.h"
+
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <cmath>
+
+namespace velmora {
+
+std::expected<JsonFile, FileError> JsonFile::read(const QString& path) {
+    if (!QFileInfo::exists(path))
+        return JsonFile(path, {});
+    const auto bytes = readFile(path);
+    if (!bytes)
+        return std::unexpected(bytes.error());
+    QJsonParseError problem;
+    const QJsonDocument document = QJsonDocument::fromJson(*bytes, &problem);
+    const QString name = QFileInfo(path).fileName();
+    if (problem.error != QJsonParseError::NoError)
+        return std::unexpected(
+            FileError{QStringLiteral("The file %1 is no JSON: %2 at byte %3.")
+                          .arg(name, problem.errorString(), QString::number(problem.offset))});
+    if (!document.isObject())
+        return std::unexpected(
+            FileError{QStringLiteral("The file %1 is no JSON object.").arg(name)});
+    return JsonFile(path, document.object());
+}
+
+void JsonFile::refuse(const QString& key, const QString& wanted) {
+    if (!error_)
+        error_ = FileError{QStringLiteral("In the file %1, \"%2\" is not %3.")
+                               .arg(QFileInfo(path_).fileName(), key, wanted)};
+}
+
+std::optional<QString> JsonFile::optionalText(const QJsonObject& object, const QString& key) {
+    const QJsonValue value = object.value(key);
+    if (value.isUndefined() || value.isNull())
+        return {};
+    if (!value.isString())
+        refuse(key, QStringLiteral("a text"));
+    return value.toString();
+}
+
+QString JsonFile::text(const QJsonObject& object, const QString& key) {
+    return optionalText(object, key).value_or(QString());
+}
+
+QStringList JsonFile::texts(const QJsonObject& object, const QString& key) {
+    const QJsonValue value = object.value(key);
+    QStringList found;
+    if (!value.isUndefined() && !value.isArray())
+        refuse(key, QStringLiteral("a list"));
+    for (const QJsonValue& each : value.toArray()) {
+        if (!each.isString())
+            refuse(key, QStringLiteral("a list of texts"));
+        found.append(each.toString());
+    }
+    return found;
+}
+
+QList<QJsonObject> JsonFile::objects(const QJsonObject& object, const QString& key) {
+    const QJsonValue value = object.value(key);
+    QList<QJsonObject> found;
+    if (!value.isUndefined() && !value.isArray())
+        refuse(key, QStringLiteral("a list"));
+    for (const QJsonValue& each : value.toArray()) {
+        if (!each.isObject())
+            refuse(key, QStringLiteral("a list of objects"));
+        found.append(each.toObject());
+    }
+    return found;
+}
+
+QJsonObject JsonFile::object(const QJsonObject& object, const QString& key) {
+    const QJsonValue value = object.value(key);
+    if (!value.isUndefined() && !value.isObject())
+        refuse(key, QStringLiteral("an object"));
+    return value.toObject();
+}
+
+void JsonFile::readSeconds(const QJsonObject& object, const QString& key,
+                           std::optional<double>& seconds) {
+    const QJsonValue value = object.value(key);
+    if (value.isNull())
+        seconds.reset();
+    else if (value.isDouble())
+        seconds = value.toDouble();
+    else if (!value.isUndefined())
+        refuse(key, QStringLiteral("a number of seconds or null"));
+}
+
+void JsonFile::readInteger(const QJsonObject& object, const QString& key, qint64& number) {
+    const QJsonValue value = object.value(key);
+    if (value.isUndefined())
+        return;
+    if (!value.isDouble() || value.toDouble() != std::trunc(value.toDouble()))
+        refuse(key, QStringLiteral("a whole number"));
+    number = value.toInteger();
+}
+
+}  // namespace velmora
