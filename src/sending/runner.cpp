@@ -98,7 +98,7 @@ void Runner::resume() {
 }
 
 void Runner::endPause(bool goOn) {
-    if (Pause* paused = std::exchange(resumeContinuation_, nullptr))
+    if (Pause* paused = std::exchange(resumeContinuation_, nullptr); paused != nullptr)
         paused->end(goOn);
 }
 

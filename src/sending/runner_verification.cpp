@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "core/fresh_id.h"
 #include "core/phone.h"
 #include "history/sent_record_wait.h"
 #include "sending/runner.h"
@@ -15,7 +16,7 @@ void Runner::unwindWithout(const std::weak_ptr<Life>& life) {
 }
 
 LogEntry Runner::newEntry(const Item& item) const {
-    return {.id = QUuid::createUuid(),
+    return {.id = freshID(),
             .time = clock().now(),
             .batch = batch,
             .name = item.name,
@@ -87,12 +88,13 @@ QCoro::Task<> Runner::checkPending() {
     // A fallback may leave a pending send of its own, which waits for the next pass.
     const std::vector<Pending> snapshot = pending_;
     for (const Pending& send : snapshot) {
-        const auto record = history->lastSent(send.item.phone, send.since);
-        if (!record || !*record || !(*record)->isConclusive())
+        const std::optional<SentRecord> record =
+            history->lastSent(send.item.phone, send.since).value_or(std::nullopt);
+        if (!record || !record->isConclusive())
             continue;
         std::erase_if(pending_,
                       [&send](const Pending& other) { return other.entryID == send.entryID; });
-        const LogEntry settled = co_await settle(send, **record);
+        const LogEntry settled = co_await settle(send, *record);
         if (settled.status == statusFailed)
             countFailure();
         replaceEntry(send.entryID, settled);
@@ -140,14 +142,15 @@ void Runner::settleLog() {
             continue;
         // The stored time is the end of the wait for the history, later than the send itself.
         constexpr double longestWait = 120;
-        const auto record =
-            history->lastSent(line.phone, historyTimestamp(line.time + -longestWait));
-        if (!record || !*record || (*record)->error != 0 || !(*record)->isConclusive())
+        const qint64 since = historyTimestamp(line.time + -longestWait);
+        const std::optional<SentRecord> record =
+            history->lastSent(line.phone, since).value_or(std::nullopt);
+        if (!record || record->error != 0 || !record->isConclusive())
             continue;
-        line.id = QUuid::createUuid();
-        if (!(*record)->service.isEmpty())
-            line.service = (*record)->service;
-        line.line = (*record)->line;
+        line.id = freshID();
+        if (!record->service.isEmpty())
+            line.service = record->service;
+        line.line = record->line;
         line.status = statusSent;
         line.detail.clear();
         changed = true;
