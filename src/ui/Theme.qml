@@ -1,0 +1,66 @@
+pragma Singleton
+import QtQuick
+import Velmora
+
+/// Type sizes, colours and spacing of every view, in light and dark.
+QtObject {
+    readonly property bool dark: SystemAppearance.dark
+
+    // Type, in points of the layout. Captions stay readable on displays of low density.
+    readonly property string fontFamily: Qt.platform.os === "osx" ? ".AppleSystemUIFont" : "Inter"
+    readonly property int title2: 17
+    readonly property int title3: 15
+    readonly property int headline: 13
+    readonly property int body: 13
+    readonly property int callout: 12
+    readonly property int caption: 11
+
+    // Text and symbols: at least 4.5 to 1 on every background below, orange (symbols alone) 3 to 1.
+    readonly property color primary: dark ? "#ececee" : "#1d1d1f"
+    readonly property color secondary: dark ? "#b3b3b8" : "#5a5a5f"
+    readonly property color tertiary: dark ? "#9c9ca2" : "#66666b"
+    readonly property color accentText: dark ? "#66aeff" : "#0b5fd0"
+    readonly property color onAccent: "#ffffff"
+    readonly property color red: dark ? "#ff8078" : "#cc1f1a"
+    readonly property color orange: dark ? "#ffa733" : "#c76200"
+    readonly property color green: dark ? "#3fd160" : "#1c7a34"
+
+    // Surfaces.
+    readonly property color windowBackground: dark ? "#252527" : "#f5f5f7"
+    readonly property color sidebarBackground: dark ? "#2e2e31" : "#eaeaed"
+    readonly property color textBackground: dark ? "#1b1b1d" : "#ffffff"
+    readonly property color groupBackground: dark ? "#2d2d30" : "#fcfcfd"
+    readonly property color sheetBackground: dark ? "#2c2c2f" : "#f5f5f7"
+    readonly property color menuBackground: dark ? "#333337" : "#f8f8fa"
+    readonly property color controlBackground: dark ? "#454549" : "#ffffff"
+    readonly property color controlHover: dark ? "#4c4c50" : "#fafafb"
+    readonly property color controlPressed: dark ? "#5a5a5f" : "#e6e6e9"
+    readonly property color controlBorder: dark ? "#5b5b60" : "#cfcfd4"
+    readonly property color controlEdge: dark ? "#232325" : "#b9b9bf"
+    readonly property color separator: dark ? "#3d3d41" : "#dcdce0"
+    readonly property color quaternary: dark ? "#1affffff" : "#0f000000"
+    readonly property color sheetDim: dark ? "#80000000" : "#33000000"
+    readonly property color shadow: dark ? "#66000000" : "#33000000"
+
+    // What is chosen, pressed or focused.
+    readonly property color accent: dark ? "#0f6ae0" : "#0a66dd"
+    readonly property color accentHover: dark ? "#1a73e8" : "#0960d0"
+    readonly property color accentPressed: dark ? "#0c5ac0" : "#0852b3"
+    readonly property color focusRing: dark ? "#8066aeff" : "#800a66dd"
+    readonly property color selection: dark ? "#3d5f8f" : "#b8d4fb"
+
+    // Spacing and shape.
+    readonly property int gap: 8
+    readonly property int padding: 16
+    readonly property int sheetPadding: 24
+    readonly property int radius: 6
+    readonly property int panelRadius: 10
+    readonly property int controlHeight: 24
+    readonly property int smallControlHeight: 20
+    readonly property int largeControlHeight: 30
+    readonly property int focusRingWidth: 3
+
+    /// How long a colour or a position takes to change, in milliseconds.
+    readonly property int quick: 90
+    readonly property int helpDelay: 900
+}

@@ -1,0 +1,68 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Layouts
+import Velmora
+
+/// A pop-up picker: shows the chosen option and opens the others over it.
+MenuOpener {
+    id: picker
+
+    property list<string> options
+    property int currentIndex: -1
+    property string accessibleName
+
+    signal chosen(int index)
+
+    implicitWidth: popup.implicitWidth + 8
+    implicitHeight: Theme.controlHeight
+    leftPadding: 9
+    rightPadding: 5
+    text: options[currentIndex] ?? ""
+    menu: popup
+    Accessible.role: Accessible.ComboBox
+    Accessible.name: accessibleName
+    Accessible.description: text
+
+    PopupMenu {
+        id: popup
+        x: -24
+        y: -rowsTop - Math.max(0, picker.currentIndex) * 24
+        width: Math.max(implicitWidth, picker.width + 24)
+        entries: picker.options.map(option => ({ text: option }))
+        markedIndex: picker.currentIndex
+        marksColumn: true
+        onChosen: index => picker.chosen(index)
+    }
+
+    contentItem: RowLayout {
+        spacing: 6
+
+        BodyText {
+            Layout.fillWidth: true
+            text: picker.text
+            wrapMode: Text.NoWrap
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+        Rectangle {
+            Layout.preferredWidth: 16
+            Layout.preferredHeight: 16
+            radius: 4
+            color: Theme.accent
+
+            SymbolIcon {
+                anchors.centerIn: parent
+                name: "chevron.up.chevron.down"
+                size: 11
+                color: Theme.onAccent
+            }
+        }
+    }
+
+    background: ControlSurface {
+        pressed: popup.visible
+        hovered: picker.hovered
+
+        FocusRing { shown: picker.visualFocus }
+    }
+}

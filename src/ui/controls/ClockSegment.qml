@@ -1,0 +1,48 @@
+import QtQuick
+import Velmora
+
+/// One part of a time picker: takes digits and arrows while it has the keyboard.
+BodyText {
+    id: segment
+
+    property string accessibleName
+    property int value: 0
+    property int minimumValue: 0
+    property int maximumValue: 59
+    readonly property int stepSize: 1
+
+    signal stepped(int delta)
+    signal typed(string character)
+
+    leftPadding: 2
+    rightPadding: 2
+    topPadding: 1
+    bottomPadding: 1
+    color: activeFocus ? Theme.onAccent : Theme.primary
+    wrapMode: Text.NoWrap
+    activeFocusOnTab: true
+    Accessible.role: Accessible.SpinBox
+    Accessible.name: accessibleName
+    Accessible.focusable: true
+    Accessible.onIncreaseAction: segment.stepped(1)
+    Accessible.onDecreaseAction: segment.stepped(-1)
+    Keys.onUpPressed: stepped(1)
+    Keys.onDownPressed: stepped(-1)
+    Keys.onPressed: event => {
+        event.accepted = /^[0-9a-zA-Z]$/.test(event.text)
+            && (event.modifiers & (Qt.ControlModifier | Qt.MetaModifier | Qt.AltModifier)) === 0;
+        if (event.accepted)
+            typed(event.text);
+    }
+
+    Rectangle {
+        z: -1
+        anchors.fill: parent
+        radius: 3
+        color: Theme.accent
+        visible: segment.activeFocus
+    }
+    TapHandler {
+        onTapped: segment.forceActiveFocus(Qt.MouseFocusReason)
+    }
+}

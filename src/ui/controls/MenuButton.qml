@@ -1,0 +1,75 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Layouts
+import Velmora
+
+/// A button that opens a menu of actions. An entry is `{text, symbol, separator, enabled}`; its
+/// place in `entries` is told by `chosen`.
+MenuOpener {
+    id: button
+
+    property string symbol
+    property bool borderless: false
+    property string help
+    property var entries: []
+    property int fontSize: Theme.body
+
+    signal chosen(int index)
+
+    implicitWidth: line.implicitWidth + leftPadding + rightPadding
+    implicitHeight: borderless ? 20 : Theme.controlHeight
+    leftPadding: borderless ? 0 : 9
+    rightPadding: borderless ? 0 : 7
+    menu: popup
+    Accessible.role: Accessible.ButtonMenu
+    Accessible.name: text
+    Accessible.description: help
+
+    PopupMenu {
+        id: popup
+        y: button.height + 3
+        width: Math.max(implicitWidth, button.borderless ? 0 : button.width)
+        entries: button.entries
+        onChosen: index => button.chosen(index)
+    }
+
+    HelpTip {
+        text: button.help
+        wanted: button.hovered && !popup.visible
+    }
+
+    contentItem: RowLayout {
+        id: line
+        spacing: 5
+        opacity: button.borderless && button.down ? 0.6 : 1
+
+        SymbolIcon {
+            visible: button.symbol.length > 0
+            name: button.symbol
+            size: button.fontSize + 3
+        }
+        BodyText {
+            Layout.fillWidth: true
+            text: button.text
+            font.pixelSize: button.fontSize
+            wrapMode: Text.NoWrap
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+        SymbolIcon {
+            name: "chevron.down"
+            size: 10
+            color: Theme.secondary
+        }
+    }
+
+    background: Item {
+        ControlSurface {
+            anchors.fill: parent
+            visible: !button.borderless
+            pressed: popup.visible
+            hovered: button.hovered
+        }
+        FocusRing { shown: button.visualFocus }
+    }
+}

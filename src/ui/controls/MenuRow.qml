@@ -1,0 +1,81 @@
+import QtQuick
+import QtQuick.Layouts
+import Velmora
+
+/// One line of a pop-up menu: a choice with its mark or symbol, or a separator.
+Item {
+    id: row
+
+    required property var modelData
+    required property int index
+    property bool highlighted: false
+    property bool marked: false
+    property bool marksColumn: false
+
+    readonly property bool separator: modelData.separator ?? false
+    readonly property string title: modelData.text ?? ""
+    readonly property string symbol: modelData.symbol ?? ""
+    readonly property bool selectable: !separator && (modelData.enabled ?? true)
+    readonly property color tint: highlighted ? Theme.onAccent
+                                              : selectable ? Theme.primary : Theme.tertiary
+
+    signal pointed
+    signal picked
+
+    implicitWidth: separator ? 40 : line.implicitWidth + 24
+    implicitHeight: separator ? 11 : 24
+    Accessible.role: separator ? Accessible.Separator : Accessible.MenuItem
+    Accessible.name: title
+    Accessible.checkable: marksColumn
+    Accessible.checked: marked
+    Accessible.focused: highlighted
+    Accessible.onPressAction: if (row.selectable) row.picked()
+
+    HorizontalDivider {
+        visible: row.separator
+        width: parent.width - 20
+        anchors.centerIn: parent
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: 5
+        color: Theme.accent
+        visible: row.highlighted
+    }
+
+    RowLayout {
+        id: line
+        visible: !row.separator
+        anchors.fill: parent
+        anchors.leftMargin: 8
+        anchors.rightMargin: 16
+        spacing: 6
+
+        SymbolIcon {
+            Layout.preferredWidth: 14
+            visible: row.marksColumn || row.symbol.length > 0
+            name: row.marked ? "checkmark" : row.symbol
+            size: 14
+            color: row.tint
+        }
+        BodyText {
+            Layout.fillWidth: true
+            text: row.title
+            color: row.tint
+            wrapMode: Text.NoWrap
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+    }
+
+    HoverHandler {
+        enabled: row.selectable
+        onHoveredChanged: if (hovered) row.pointed()
+    }
+    TapHandler {
+        enabled: row.selectable
+        gesturePolicy: TapHandler.WithinBounds
+        onTapped: row.picked()
+    }
+}

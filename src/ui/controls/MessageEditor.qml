@@ -1,0 +1,76 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+import Velmora
+
+/// Several lines of plain text to type in. It scrolls, and Tab leaves it. Text that is added from
+/// outside keeps the caret and what can be undone.
+FocusScope {
+    id: editor
+
+    property string text
+    property string accessibleName
+    property bool following: false
+
+    signal edited(string text)
+
+    implicitWidth: 240
+    implicitHeight: 140
+    opacity: enabled ? 1 : 0.55
+    onTextChanged: {
+        following = true;
+        if (text.startsWith(area.text))
+            area.append(text.slice(area.length));
+        else
+            area.text = text;
+        following = false;
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: 8
+        color: Theme.textBackground
+        border.color: Theme.controlBorder
+
+        FocusRing {
+            cornerRadius: 8
+            shown: area.activeFocus
+        }
+    }
+
+    Flickable {
+        anchors.fill: parent
+        anchors.margins: 1
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        T.ScrollBar.vertical: SlimScrollBar {}
+
+        T.TextArea.flickable: T.TextArea {
+            id: area
+
+            function append(suffix: string) {
+                if (suffix.length === 0)
+                    return;
+                insert(length, suffix);
+                cursorPosition = length;
+            }
+
+            focus: true
+            padding: 6
+            wrapMode: TextEdit.Wrap
+            textFormat: TextEdit.PlainText
+            selectByMouse: true
+            color: Theme.primary
+            selectionColor: Theme.selection
+            selectedTextColor: Theme.primary
+            font.family: Theme.fontFamily
+            font.pixelSize: Theme.body
+            Accessible.name: editor.accessibleName
+            Accessible.multiLine: true
+            Keys.priority: Keys.BeforeItem
+            Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+            Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+            onTextChanged: if (!editor.following) editor.edited(area.text)
+        }
+    }
+}

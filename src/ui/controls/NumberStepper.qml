@@ -1,0 +1,49 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Velmora
+
+/// A titled whole number with arrows that step it between two ends.
+T.Control {
+    id: stepper
+
+    property int value: 0
+    property int from: 0
+    property int to: 100
+    property string text
+    readonly property int minimumValue: from
+    readonly property int maximumValue: to
+    readonly property int stepSize: 1
+
+    signal changed(int value)
+
+    implicitWidth: line.implicitWidth
+    implicitHeight: Math.max(Theme.controlHeight, line.implicitHeight)
+    focusPolicy: Qt.TabFocus
+    opacity: enabled ? 1 : 0.45
+    Accessible.role: Accessible.SpinBox
+    Accessible.name: text
+    Accessible.onIncreaseAction: if (stepper.value < stepper.to) stepper.changed(stepper.value + 1)
+    Accessible.onDecreaseAction: if (stepper.value > stepper.from) stepper.changed(stepper.value - 1)
+    Keys.onUpPressed: if (value < to) changed(value + 1)
+    Keys.onDownPressed: if (value > from) changed(value - 1)
+
+    contentItem: RowLayout {
+        id: line
+        spacing: 12
+
+        BodyText {
+            Layout.fillWidth: true
+            text: stepper.text
+            Accessible.ignored: true
+        }
+        StepArrows {
+            canIncrease: stepper.value < stepper.to
+            canDecrease: stepper.value > stepper.from
+            onStepped: delta => stepper.changed(stepper.value + delta)
+
+            FocusRing { shown: stepper.visualFocus }
+        }
+    }
+}

@@ -1,0 +1,102 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Velmora
+
+/// A pop-up menu. Arrows, Return, Space and Escape work it, as do a click and a drag from the
+/// button that opened it.
+T.Popup {
+    id: menu
+
+    property var entries: []
+    property int markedIndex: -1
+    property bool marksColumn: false
+    property int highlighted: -1
+    readonly property real rowsTop: topPadding
+
+    signal chosen(int index)
+
+    function step(delta: int) {
+        let next = highlighted + delta;
+        while (next >= 0 && next < rows.count && !(rows.itemAt(next) as MenuRow).selectable)
+            next += delta;
+        if (next >= 0 && next < rows.count)
+            highlighted = next;
+    }
+    function pick(index: int) {
+        close();
+        if (index >= 0)
+            chosen(index);
+    }
+    function track(scene: point) {
+        const place = column.mapFromItem(null, scene.x, scene.y);
+        const row = column.childAt(place.x, place.y) as MenuRow;
+        highlighted = row !== null && row.selectable ? row.index : -1;
+    }
+
+    focus: true
+    modal: true
+    dim: false
+    margins: 6
+    padding: 5
+    implicitWidth: column.implicitWidth + leftPadding + rightPadding
+    implicitHeight: column.implicitHeight + topPadding + bottomPadding
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+    onAboutToShow: highlighted = markedIndex
+    onOpened: flick.forceActiveFocus(Qt.PopupFocusReason)
+
+    background: Item {
+        Rectangle {
+            anchors.fill: parent
+            anchors.topMargin: 3
+            anchors.margins: -2
+            anchors.bottomMargin: -5
+            radius: 10
+            color: Theme.shadow
+            opacity: 0.35
+        }
+        Rectangle {
+            anchors.fill: parent
+            radius: 8
+            color: Theme.menuBackground
+            border.color: Theme.controlBorder
+        }
+    }
+
+    contentItem: Flickable {
+        id: flick
+        contentHeight: column.implicitHeight
+        boundsBehavior: Flickable.StopAtBounds
+        interactive: contentHeight > height
+        clip: interactive
+        Accessible.role: Accessible.PopupMenu
+        Keys.onUpPressed: menu.step(menu.highlighted < 0 ? rows.count : -1)
+        Keys.onDownPressed: menu.step(1)
+        Keys.onReturnPressed: menu.pick(menu.highlighted)
+        Keys.onEnterPressed: menu.pick(menu.highlighted)
+        Keys.onSpacePressed: menu.pick(menu.highlighted)
+        Keys.onTabPressed: {}
+        Keys.onBacktabPressed: {}
+
+        ColumnLayout {
+            id: column
+            width: flick.width
+            spacing: 0
+
+            Repeater {
+                id: rows
+                model: menu.entries
+
+                MenuRow {
+                    Layout.fillWidth: true
+                    highlighted: menu.highlighted === index
+                    marked: menu.markedIndex === index
+                    marksColumn: menu.marksColumn
+                    onPointed: menu.highlighted = index
+                    onPicked: menu.pick(index)
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,86 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+import Velmora
+
+/// A row of segments of which one is chosen. Arrows, a click or a press choose another.
+T.Control {
+    id: choice
+
+    property list<string> options
+    property int currentIndex: 0
+    property string accessibleName
+    property string help
+
+    signal chosen(int index)
+
+    implicitWidth: 64 * options.length
+    implicitHeight: Theme.controlHeight
+    padding: 2
+    focusPolicy: Qt.TabFocus
+    hoverEnabled: true
+    opacity: enabled ? 1 : 0.45
+    Accessible.role: Accessible.Grouping
+    Accessible.name: accessibleName
+    Accessible.description: help
+    Keys.onLeftPressed: if (currentIndex > 0) chosen(currentIndex - 1)
+    Keys.onRightPressed: if (currentIndex < options.length - 1) chosen(currentIndex + 1)
+    Keys.onSpacePressed: chosen((currentIndex + 1) % options.length)
+
+    HelpTip {
+        text: choice.help
+        wanted: choice.hovered
+    }
+
+    background: Rectangle {
+        radius: Theme.radius
+        color: Theme.quaternary
+
+        FocusRing { shown: choice.visualFocus }
+    }
+
+    contentItem: Item {
+        id: track
+        readonly property real segmentWidth: width / Math.max(1, choice.options.length)
+
+        Rectangle {
+            x: choice.currentIndex * track.segmentWidth
+            width: track.segmentWidth
+            height: parent.height
+            radius: Theme.radius - 1
+            color: Theme.dark ? "#636369" : "#ffffff"
+            border.width: Theme.dark ? 0 : 1
+            border.color: "#d9d9de"
+
+            Behavior on x {
+                NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic }
+            }
+        }
+
+        Repeater {
+            model: choice.options
+
+            BodyText {
+                id: segment
+                required property string modelData
+                required property int index
+
+                x: index * track.segmentWidth
+                width: track.segmentWidth
+                height: track.height
+                text: modelData
+                font.weight: choice.currentIndex === index ? Font.Medium : Font.Normal
+                horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+                elide: Text.ElideRight
+                wrapMode: Text.NoWrap
+                Accessible.role: Accessible.RadioButton
+                Accessible.checkable: true
+                Accessible.checked: choice.currentIndex === index
+                Accessible.onPressAction: choice.chosen(segment.index)
+
+                TapHandler { onTapped: choice.chosen(segment.index) }
+            }
+        }
+    }
+}

@@ -1,0 +1,27 @@
+import QtQuick
+import QtQuick.Templates as T
+import Velmora
+
+/// The overlay bar that shows where a list or a text stands, while it moves or is pointed at.
+T.ScrollBar {
+    id: bar
+
+    implicitWidth: vertical ? 11 : 40
+    implicitHeight: vertical ? 40 : 11
+    padding: 2
+    minimumSize: 0.06
+    visible: size < 1
+    Accessible.ignored: true
+
+    contentItem: Rectangle {
+        implicitWidth: 7
+        implicitHeight: 7
+        radius: 3.5
+        color: Theme.dark ? "#99ffffff" : "#80000000"
+        opacity: bar.active || bar.hovered || bar.pressed ? 1 : 0
+
+        Behavior on opacity {
+            NumberAnimation { duration: Theme.quick * 2 }
+        }
+    }
+}

@@ -1,0 +1,20 @@
+import QtQuick
+import Velmora
+
+/// One symbol, drawn in one colour at any size.
+Image {
+    id: icon
+
+    property string name
+    property real size: 16
+    property color color: Theme.primary
+    property bool light: false
+
+    width: size
+    height: size
+    source: SymbolAddress.of(name, color, light)
+    sourceSize.width: size
+    sourceSize.height: size
+    fillMode: Image.PreserveAspectFit
+    Accessible.ignored: true
+}

@@ -1,0 +1,59 @@
+import QtQuick
+import QtQuick.Templates as T
+import Velmora
+
+/// One line of text to type in. What is typed is told by `edited`; the bound text may follow.
+T.TextField {
+    id: field
+
+    property alias placeholder: field.placeholderText
+    property bool plain: false
+    property bool small: false
+    property string accessibleName: placeholder
+
+    signal edited(string text)
+
+    implicitWidth: 160
+    implicitHeight: plain ? Math.ceil(contentHeight) : small ? Theme.smallControlHeight
+                                                             : Theme.controlHeight
+    leftPadding: plain ? 0 : 6
+    rightPadding: leftPadding
+    verticalAlignment: TextInput.AlignVCenter
+    color: Theme.primary
+    placeholderTextColor: Theme.tertiary
+    selectionColor: Theme.selection
+    selectedTextColor: Theme.primary
+    selectByMouse: true
+    font.family: Theme.fontFamily
+    font.pixelSize: small ? Theme.caption : Theme.body
+    opacity: enabled ? 1 : 0.45
+    Accessible.name: accessibleName
+    onTextEdited: field.edited(field.text)
+
+    BodyText {
+        x: field.leftPadding
+        width: field.width - field.leftPadding - field.rightPadding
+        height: field.height
+        verticalAlignment: Text.AlignVCenter
+        horizontalAlignment: field.horizontalAlignment
+        visible: field.length === 0 && field.preeditText.length === 0
+        text: field.placeholder
+        color: field.placeholderTextColor
+        font: field.font
+        elide: Text.ElideRight
+        wrapMode: Text.NoWrap
+        Accessible.ignored: true
+    }
+
+    background: Rectangle {
+        visible: !field.plain
+        radius: Theme.radius - 1
+        color: Theme.textBackground
+        border.color: Theme.controlBorder
+
+        FocusRing {
+            cornerRadius: Theme.radius - 1
+            shown: field.activeFocus
+        }
+    }
+}

@@ -1,0 +1,57 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+import Velmora
+
+/// A check box. It shows `checked` as its view binds it and asks for a change by `toggled`.
+T.Control {
+    id: box
+
+    property bool checked: false
+    property string accessibleName
+
+    signal toggled(bool checked)
+
+    implicitWidth: 16
+    implicitHeight: 16
+    focusPolicy: Qt.TabFocus
+    hoverEnabled: true
+    opacity: enabled ? 1 : 0.45
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: accessibleName
+    Accessible.checkable: true
+    Accessible.checked: checked
+    Accessible.onPressAction: box.toggled(!box.checked)
+    Accessible.onToggleAction: box.toggled(!box.checked)
+    Keys.onSpacePressed: event => event.isAutoRepeat ? undefined : box.toggled(!box.checked)
+    Keys.onReturnPressed: box.toggled(!box.checked)
+
+    TapHandler {
+        id: tap
+        margin: 4
+        gesturePolicy: TapHandler.WithinBounds
+        onTapped: box.toggled(!box.checked)
+    }
+
+    background: Rectangle {
+        radius: 4
+        color: box.checked ? (tap.pressed ? Theme.accentPressed : Theme.accent)
+                           : (tap.pressed ? Theme.controlPressed
+                                          : box.hovered ? Theme.controlHover
+                                                        : Theme.controlBackground)
+        border.width: box.checked ? 0 : 1
+        border.color: Theme.dark ? Theme.tertiary : "#a4a4aa"
+
+        SymbolIcon {
+            anchors.centerIn: parent
+            name: "checkmark"
+            size: 12
+            color: Theme.onAccent
+            visible: box.checked
+        }
+        FocusRing {
+            cornerRadius: 4
+            shown: box.visualFocus
+        }
+    }
+}

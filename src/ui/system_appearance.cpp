@@ -1,0 +1,35 @@
+#include "ui/system_appearance.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QPalette>
+
+namespace velmora {
+
+namespace {
+
+bool paletteIsDark() {
+    const QPalette palette = QGuiApplication::palette();
+    return palette.color(QPalette::WindowText).lightness() >
+           palette.color(QPalette::Window).lightness();
+}
+
+}  // namespace
+
+SystemAppearance::SystemAppearance(QObject* parent) : QObject(parent), dark_(paletteIsDark()) {
+    if (qGuiApp != nullptr)
+        qGuiApp->installEventFilter(this);
+}
+
+bool SystemAppearance::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange) {
+        const bool dark = paletteIsDark();
+        if (dark != dark_) {
+            dark_ = dark;
+            Q_EMIT darkChanged();
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+}  // namespace velmora
