@@ -1,0 +1,64 @@
+// A send log of 100,000 entries: reading it whole, and reading who was sent.
+
+#include <benchmark/benchmark.h>
+
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include "bench_home.h"
+#include "core/send_log.h"
+
+namespace velmora {
+
+namespace {
+
+const QString batch = QStringLiteral("Friends 2025-03-14");
+
+class LogBench : public benchmark::Fixture {
+  public:
+    LogBench() {
+        std::vector<LogEntry> entries;
+        for (int n = 0; n < 100'000; ++n)
+            entries.push_back(
+                {.id = {},
+                 .time = clock_.now() + n,
+                 .batch = batch,
+                 .name = QStringLiteral("Given%1 Family%2").arg(n).arg(n % 997),
+                 .phone = benchPhone(n),
+                 .service = QStringLiteral("iMessage"),
+                 .line = QStringLiteral("+12125550001"),
+                 .status = QStringLiteral("sent"),
+                 .detail = n % 20 == 0 ? QStringLiteral("Said \"no\", then left.") : QString()});
+        log.rewrite(batch, entries);
+        bytes = QFileInfo(log.logFile(batch)).size();
+    }
+
+  private:
+    QTemporaryDir folder_;
+    VirtualClock clock_{Moment{763657200.0}};
+    SupportFolder support_{folder_.path()};
+
+  protected:
+    SendLog log{support_, clock_};
+    qint64 bytes = 0;
+};
+
+BENCHMARK_DEFINE_F(LogBench, load)(benchmark::State& state) {
+    for (auto _ : state)
+        benchmark::DoNotOptimize(log.load(batch));
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * bytes);
+}
+BENCHMARK_REGISTER_F(LogBench, load)->Unit(benchmark::kMillisecond);
+
+BENCHMARK_DEFINE_F(LogBench, alreadySent)(benchmark::State& state) {
+    for (auto _ : state)
+        benchmark::DoNotOptimize(log.alreadySent(batch));
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * bytes);
+}
+BENCHMARK_REGISTER_F(LogBench, alreadySent)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+}  // namespace velmora
+
+BENCHMARK_MAIN();

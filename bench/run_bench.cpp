@@ -1,0 +1,106 @@
+// A whole run of 60 people on the virtual clock: waits, faults of every kind, the final check; with
+// the real script text, a real history and a real log on the disk.
+
+#include <benchmark/benchmark.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QTemporaryDir>
+
+#include "bench_home.h"
+#include "core/files.h"
+#include "platform/rehearsal/history_writer.h"
+#include "platform/rehearsal/rehearsal_platform.h"
+
+namespace velmora {
+
+namespace {
+
+constexpr int people = 60;
+const QString line = QStringLiteral("+12125550001");
+
+const std::array<const char*, 7> faults = {
+    R"({ "iMessage": { "error": 22 } })",
+    R"({ "error": 22 })",
+    R"({ "scriptError": "Messages got an error: Can't get participant." })",
+    R"({ "sentAfter": 50, "deliveredAfter": null })",
+    R"({ "iMessage": { "recordAfter": 21, "error": 22 } })",
+    R"({ "line": "+12125550002" })",
+    R"({ "recordAfter": null })",
+};
+
+QByteArray messagesSettings() {
+    QByteArrayList entries;
+    for (int n = 0; n < people; n += 3)
+        entries.append("\"" + benchPhone(n).toUtf8() +
+                       "\": " + faults.at(static_cast<size_t>(n / 3) % faults.size()));
+    return "{ \"line\": \"" + line.toUtf8() + "\", \"people\": { " + entries.join(", ") + " } }";
+}
+
+/// A home of its own, with the settings of Messages and an empty history.
+class RunHome {
+  public:
+    RunHome() {
+        const QString messages = folder_.path() + QStringLiteral("/Library/Messages");
+        if (!createPrivateFolder(messages) ||
+            !replaceFile(messages + QStringLiteral("/messages.json"), messagesSettings()) ||
+            !HistoryWriter::open(messagesHistoryPath(folder_.path())))
+            qFatal("The benchmark's home folder could not be made.");
+    }
+    [[nodiscard]] QString path() const { return folder_.path(); }
+
+  private:
+    QTemporaryDir folder_;
+};
+
+void run(const QString& home, VirtualSurroundings& world, qint64& paused) {
+    const Platform platform = makeRehearsalPlatform(world.clock, home);
+    SupportFolder support(platform.applicationSupport);
+    SendLog log(support, world.clock);
+    MessageSender sender(*platform.scripts);
+    Runner runner({sender, *platform.desktop, log, messagesHistoryPath(home), world.handed()});
+    QObject::connect(&runner, &Runner::stateChanged, &runner, [&] {
+        if (runner.state == Runner::State::paused) {
+            ++paused;
+            world.clock.after(90, [&runner] { runner.resume(); });
+        }
+    });
+    std::vector<Runner::Item> items;
+    for (int n = 0; n < people; ++n)
+        items.push_back({QStringLiteral("Person %1").arg(n), benchPhone(n),
+                         QStringLiteral("Hey Person %1, want in?").arg(n)});
+    AppConfig config;
+    config.senderNumber = line;
+    runner.start(QStringLiteral("Everyone"), items, config);
+    world.clock.runUntilIdle();
+    if (runner.done != people)
+        qFatal("The run did not handle everyone.");
+}
+
+void runOf60(benchmark::State& state) {
+    qint64 paused = 0;
+    double seconds = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        const auto home = std::make_unique<RunHome>();
+        VirtualSurroundings world;
+        paused = 0;
+        state.ResumeTiming();
+        run(home->path(), world, paused);
+        seconds = world.clock.uptime();
+    }
+    state.counters["pauses"] = static_cast<double>(paused);
+    state.counters["simulated_s"] = seconds;
+}
+BENCHMARK(runOf60)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+}  // namespace velmora
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
