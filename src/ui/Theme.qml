@@ -20,7 +20,7 @@ QtObject {
     readonly property color secondary: dark ? "#b3b3b8" : "#5a5a5f"
     readonly property color tertiary: dark ? "#9c9ca2" : "#66666b"
     readonly property color accentText: dark ? "#66aeff" : "#0b5fd0"
-    readonly property color onAccent: "#ffffff"
+    readonly property color overAccent: "#ffffff"
     readonly property color red: dark ? "#ff8078" : "#cc1f1a"
     readonly property color orange: dark ? "#ffa733" : "#c76200"
     readonly property color green: dark ? "#3fd160" : "#1c7a34"

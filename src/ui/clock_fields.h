@@ -8,7 +8,7 @@ namespace velmora {
 
 /// What the parts of a time picker show and what keys do to them: hours, minutes and, where the
 /// user's language counts to twelve, the half of the day.
-class ClockFields final : public QObject {
+class ClockFields : public QObject {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(int hour READ hour WRITE setHour NOTIFY changed)

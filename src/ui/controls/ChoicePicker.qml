@@ -28,7 +28,7 @@ MenuOpener {
         x: -24
         y: -rowsTop - Math.max(0, picker.currentIndex) * 24
         width: Math.max(implicitWidth, picker.width + 24)
-        entries: picker.options.map(option => ({ text: option }))
+        entries: picker.options
         markedIndex: picker.currentIndex
         marksColumn: true
         onChosen: index => picker.chosen(index)
@@ -54,7 +54,7 @@ MenuOpener {
                 anchors.centerIn: parent
                 name: "chevron.up.chevron.down"
                 size: 11
-                color: Theme.onAccent
+                color: Theme.overAccent
             }
         }
     }

@@ -18,7 +18,7 @@ BodyText {
     rightPadding: 2
     topPadding: 1
     bottomPadding: 1
-    color: activeFocus ? Theme.onAccent : Theme.primary
+    color: activeFocus ? Theme.overAccent : Theme.primary
     wrapMode: Text.NoWrap
     activeFocusOnTab: true
     Accessible.role: Accessible.SpinBox

@@ -16,12 +16,11 @@ T.ToolTip {
     padding: 4
     leftPadding: 7
     rightPadding: 7
-    implicitWidth: Math.min(280, words.implicitWidth + leftPadding + rightPadding)
-    implicitHeight: words.height + topPadding + bottomPadding
+    implicitWidth: Math.min(280, implicitContentWidth + leftPadding + rightPadding)
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
 
     contentItem: BodyText {
-        id: words
         text: tip.text
         font.pixelSize: Theme.caption
     }

@@ -16,7 +16,7 @@ MenuOpener {
 
     signal chosen(int index)
 
-    implicitWidth: line.implicitWidth + leftPadding + rightPadding
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: borderless ? 20 : Theme.controlHeight
     leftPadding: borderless ? 0 : 9
     rightPadding: borderless ? 0 : 7
@@ -39,7 +39,6 @@ MenuOpener {
     }
 
     contentItem: RowLayout {
-        id: line
         spacing: 5
         opacity: button.borderless && button.down ? 0.6 : 1
 

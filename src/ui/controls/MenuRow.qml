@@ -13,10 +13,11 @@ Item {
     property bool marksColumn: false
 
     readonly property bool separator: modelData.separator ?? false
-    readonly property string title: modelData.text ?? ""
+    readonly property string title: separator ? "" : modelData.text ?? modelData
     readonly property string symbol: modelData.symbol ?? ""
+    readonly property string keys: modelData.keys ?? ""
     readonly property bool selectable: !separator && (modelData.enabled ?? true)
-    readonly property color tint: highlighted ? Theme.onAccent
+    readonly property color tint: highlighted ? Theme.overAccent
                                               : selectable ? Theme.primary : Theme.tertiary
 
     signal pointed
@@ -65,6 +66,14 @@ Item {
             color: row.tint
             wrapMode: Text.NoWrap
             elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+        BodyText {
+            Layout.leftMargin: 22
+            visible: row.keys.length > 0
+            text: row.keys
+            color: row.highlighted ? Theme.overAccent : Theme.secondary
+            wrapMode: Text.NoWrap
             Accessible.ignored: true
         }
     }

@@ -18,8 +18,8 @@ T.Control {
 
     signal changed(int value)
 
-    implicitWidth: line.implicitWidth
-    implicitHeight: Math.max(Theme.controlHeight, line.implicitHeight)
+    implicitWidth: implicitContentWidth
+    implicitHeight: Math.max(Theme.controlHeight, implicitContentHeight)
     focusPolicy: Qt.TabFocus
     opacity: enabled ? 1 : 0.45
     Accessible.role: Accessible.SpinBox
@@ -30,7 +30,6 @@ T.Control {
     Keys.onDownPressed: if (value > from) changed(value - 1)
 
     contentItem: RowLayout {
-        id: line
         spacing: 12
 
         BodyText {

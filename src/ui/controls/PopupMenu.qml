@@ -16,6 +16,7 @@ T.Popup {
     readonly property real rowsTop: topPadding
 
     signal chosen(int index)
+    signal sideways(int delta)
 
     function step(delta: int) {
         let next = highlighted + delta;
@@ -64,8 +65,9 @@ T.Popup {
         }
     }
 
-    contentItem: Flickable {
+    Flickable {
         id: flick
+        anchors.fill: parent
         contentHeight: column.implicitHeight
         boundsBehavior: Flickable.StopAtBounds
         interactive: contentHeight > height
@@ -76,6 +78,8 @@ T.Popup {
         Keys.onReturnPressed: menu.pick(menu.highlighted)
         Keys.onEnterPressed: menu.pick(menu.highlighted)
         Keys.onSpacePressed: menu.pick(menu.highlighted)
+        Keys.onLeftPressed: menu.sideways(-1)
+        Keys.onRightPressed: menu.sideways(1)
         Keys.onTabPressed: {}
         Keys.onBacktabPressed: {}
 

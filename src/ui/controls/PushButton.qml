@@ -16,7 +16,7 @@ T.AbstractButton {
     property bool leading: false
     property string help
     property int fontSize: controlSize === PushButton.Small ? Theme.caption : Theme.body
-    property color tint: kind === PushButton.Prominent ? Theme.onAccent
+    property color tint: kind === PushButton.Prominent ? Theme.overAccent
                          : kind === PushButton.Destructive ? Theme.red
                          : kind === PushButton.Link ? Theme.accentText : Theme.primary
 
@@ -48,8 +48,11 @@ T.AbstractButton {
         wanted: button.hovered && !button.down
     }
 
-    contentItem: Item {
+    Item {
         id: face
+        anchors.fill: parent
+        anchors.leftMargin: button.leftPadding
+        anchors.rightMargin: button.rightPadding
         implicitWidth: words.implicitWidth + icon.space
         implicitHeight: words.implicitHeight
 

@@ -39,8 +39,10 @@ T.Control {
         FocusRing { shown: choice.visualFocus }
     }
 
-    contentItem: Item {
+    Item {
         id: track
+        anchors.fill: parent
+        anchors.margins: choice.padding
         readonly property real segmentWidth: width / Math.max(1, choice.options.length)
 
         Rectangle {

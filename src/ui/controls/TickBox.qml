@@ -46,7 +46,7 @@ T.Control {
             anchors.centerIn: parent
             name: "checkmark"
             size: 12
-            color: Theme.onAccent
+            color: Theme.overAccent
             visible: box.checked
         }
         FocusRing {
