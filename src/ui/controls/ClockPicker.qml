@@ -53,7 +53,7 @@ FocusScope {
             ClockSegment {
                 id: hours
                 focus: true
-                width: Math.max(20, implicitWidth)
+                width: Math.max(18, implicitWidth)
                 horizontalAlignment: Text.AlignRight
                 text: clock.hourText
                 value: clock.hour
@@ -71,7 +71,7 @@ FocusScope {
             }
             ClockSegment {
                 id: minutes
-                width: Math.max(20, implicitWidth)
+                width: Math.max(18, implicitWidth)
                 text: clock.minuteText
                 value: clock.minute
                 accessibleName: picker.accessibleName + " minute"

@@ -14,8 +14,8 @@ BodyText {
     signal stepped(int delta)
     signal typed(string character)
 
-    leftPadding: 2
-    rightPadding: 2
+    leftPadding: 1
+    rightPadding: 1
     topPadding: 1
     bottomPadding: 1
     color: activeFocus ? Theme.overAccent : Theme.primary

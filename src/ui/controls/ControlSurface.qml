@@ -10,7 +10,7 @@ Rectangle {
     property bool hovered: false
 
     radius: Theme.radius
-    color: prominent ? Theme.accentPressed : Theme.controlEdge
+    color: !enabled ? "transparent" : prominent ? Theme.accentPressed : Theme.controlEdge
 
     Rectangle {
         anchors.fill: parent

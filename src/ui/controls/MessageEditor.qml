@@ -19,10 +19,10 @@ FocusScope {
     opacity: enabled ? 1 : 0.55
     onTextChanged: {
         following = true;
-        if (text.startsWith(area.text))
+        if (area.length > 0 && text.startsWith(area.text))
             area.append(text.slice(area.length));
         else
-            area.text = text;
+            area.replace(text);
         following = false;
     }
 
@@ -53,6 +53,13 @@ FocusScope {
                     return;
                 insert(length, suffix);
                 cursorPosition = length;
+            }
+
+            function replace(words: string) {
+                if (text === words)
+                    return;
+                text = words;
+                cursorPosition = activeFocus ? length : 0;
             }
 
             focus: true

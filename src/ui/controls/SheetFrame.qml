@@ -14,7 +14,6 @@ FocusScope {
     property int buttonSpacing: spacing
     default property alias content: column.data
     property alias buttons: buttonRow.data
-    readonly property bool modalSheet: true
 
     signal cancelled
     signal accepted

@@ -1,0 +1,144 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Layouts
+import Velmora
+
+/// The settings: the number to send from, the pacing, and a test message.
+FocusScope {
+    id: view
+
+    required property SettingsModel settings
+
+    implicitWidth: 500
+    implicitHeight: form.implicitHeight + 40
+    focus: true
+
+    ColumnLayout {
+        id: form
+        anchors.fill: parent
+        anchors.margins: 20
+        spacing: 20
+
+        FormSection {
+            Layout.fillWidth: true
+            title: "Sending number"
+            footer: "Your iPhone picks the line for SMS. Velmora checks every send against this number and pauses if one goes out on the other line."
+
+            FormRow {
+                title: "Send from"
+
+                ChoicePicker {
+                    Layout.maximumWidth: 350
+                    enabled: !view.settings.locked
+                    options: view.settings.senderOptions
+                    currentIndex: view.settings.senderIndex
+                    accessibleName: "Send from"
+                    onChosen: index => view.settings.chooseSender(index)
+                }
+            }
+            BodyText {
+                Layout.fillWidth: true
+                Layout.leftMargin: 10
+                Layout.rightMargin: 10
+                Layout.bottomMargin: 10
+                visible: view.settings.numbersMissing
+                text: "Velmora found no number on this Mac. In Messages, choose Settings, then iMessage, and tick your phone number."
+                color: Theme.secondary
+                font.pixelSize: Theme.callout
+            }
+        }
+
+        FormSection {
+            Layout.fillWidth: true
+            title: "Pacing"
+            footer: "Texts go out one at a time, like you'd send them yourself, and only during the hours you set. A run stops on its own if something looks wrong."
+
+            FormRow {
+                title: "Wait between texts"
+
+                NumberEntry {
+                    Layout.preferredWidth: 44
+                    enabled: !view.settings.locked
+                    value: view.settings.delayMin
+                    accessibleName: "Shortest wait between texts in seconds"
+                    onValueEdited: value => view.settings.delayMin = value
+                }
+                BodyText { text: "to" }
+                NumberEntry {
+                    Layout.preferredWidth: 44
+                    enabled: !view.settings.locked
+                    value: view.settings.delayMax
+                    accessibleName: "Longest wait between texts in seconds"
+                    onValueEdited: value => view.settings.delayMax = value
+                }
+                BodyText { text: "seconds" }
+            }
+            FormDivider {}
+            FormRow {
+                title: "Send between"
+
+                ClockPicker {
+                    enabled: !view.settings.locked
+                    hour: view.settings.startHour
+                    minute: view.settings.startMinute
+                    accessibleName: "From"
+                    onPicked: (hour, minute) => view.settings.setStart(hour, minute)
+                }
+                BodyText { text: "and" }
+                ClockPicker {
+                    enabled: !view.settings.locked
+                    hour: view.settings.endHour
+                    minute: view.settings.endMinute
+                    accessibleName: "Until"
+                    onPicked: (hour, minute) => view.settings.setEnd(hour, minute)
+                }
+            }
+            FormDivider {}
+            FormRow {
+                NumberStepper {
+                    Layout.fillWidth: true
+                    enabled: !view.settings.locked
+                    value: view.settings.maxFailures
+                    from: view.settings.fewestFailures
+                    to: view.settings.mostFailures
+                    text: view.settings.failuresText
+                    onChanged: value => view.settings.maxFailures = value
+                }
+            }
+        }
+
+        FormSection {
+            Layout.fillWidth: true
+            title: "Test message"
+            footer: "Sends one text and reports which line it went out on."
+
+            FormRow {
+                title: "Number"
+
+                TextEntry {
+                    Layout.preferredWidth: 240
+                    text: view.settings.testPhone
+                    placeholder: "Your other number, or a friend's"
+                    accessibleName: "Number"
+                    onEdited: text => view.settings.testPhone = text
+                }
+                PushButton {
+                    text: "Send Test"
+                    enabled: view.settings.canSendTest
+                    onClicked: view.settings.sendTest()
+                }
+            }
+            BodyText {
+                Layout.fillWidth: true
+                Layout.leftMargin: 10
+                Layout.rightMargin: 10
+                Layout.bottomMargin: 10
+                visible: text.length > 0
+                text: view.settings.testResult
+                color: Theme.secondary
+                font.pixelSize: Theme.callout
+            }
+        }
+        Item { Layout.fillHeight: true }
+    }
+}

@@ -1,0 +1,9 @@
+import QtQuick.Layouts
+import Velmora
+
+/// The hairline between two rows of a form's group.
+HorizontalDivider {
+    Layout.fillWidth: true
+    Layout.leftMargin: 10
+    Layout.rightMargin: 10
+}

@@ -1,0 +1,22 @@
+import QtQuick
+import QtQuick.Layouts
+import Velmora
+
+/// One row of a form's group: what it is about and, at the trailing side, the controls for it.
+RowLayout {
+    id: row
+
+    property string title
+
+    Layout.fillWidth: true
+    Layout.leftMargin: 10
+    Layout.rightMargin: 10
+    Layout.minimumHeight: 40
+    spacing: 8
+
+    BodyText {
+        Layout.fillWidth: true
+        text: row.title
+        visible: row.title.length > 0
+    }
+}

@@ -1,0 +1,55 @@
+#include "ui/full_disk_access_timeline.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmora {
+
+namespace {
+
+constexpr double loop = 7.0;
+
+/// How far the time is from `start` on its way through `length` seconds, slow at both ends.
+double eased(double time, double start, double length) {
+    const double part = std::clamp((time - start) / length, 0.0, 1.0);
+    return part * part * (3 - (2 * part));
+}
+
+}  // namespace
+
+double FullDiskAccessTimeline::phase(Moment moment) {
+    const double rest = std::fmod(moment.seconds, loop);
+    return rest < 0 ? rest + loop : rest;
+}
+
+void FullDiskAccessTimeline::setTime(double time) {
+    if (time == time_)
+        return;
+    time_ = time;
+    Q_EMIT timeChanged();
+}
+
+void FullDiskAccessTimeline::showNow() {
+    setTime(phase(momentOf(QDateTime::currentDateTimeUtc())));
+}
+
+double FullDiskAccessTimeline::opacity() const {
+    if (time_ < 0.3)
+        return std::min(1.0, time_ / 0.3);
+    return time_ <= 6.3 ? 1.0 : std::max(0.0, 1 - ((time_ - 6.3) / 0.6));
+}
+
+QPointF FullDiskAccessTimeline::pointer() const {
+    const double way = eased(time_, 0.4, 1.6);
+    return {250 + (23 * way), 180 - (90 * way)};
+}
+
+double FullDiskAccessTimeline::pointerScale() const {
+    return time_ > 2.05 && time_ < 2.35 ? 0.86 : 1.0;
+}
+
+double FullDiskAccessTimeline::switchedOn() const {
+    return eased(time_, 2.2, 0.3);
+}
+
+}  // namespace velmora

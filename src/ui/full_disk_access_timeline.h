@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QObject>
+#include <QPointF>
+
+#include "core/moment.h"
+
+namespace velmora {
+
+/// The course of the animation that shows how Full Disk Access is turned on: a loop of 7 seconds
+/// in which a pointer glides to a switch and turns it on. All that is drawn follows from `time`.
+class FullDiskAccessTimeline : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(double time READ time WRITE setTime NOTIFY timeChanged)
+    Q_PROPERTY(double opacity READ opacity NOTIFY timeChanged)
+    Q_PROPERTY(QPointF pointer READ pointer NOTIFY timeChanged)
+    Q_PROPERTY(double pointerScale READ pointerScale NOTIFY timeChanged)
+    Q_PROPERTY(double switchedOn READ switchedOn NOTIFY timeChanged)
+
+  public:
+    using QObject::QObject;
+
+    /// Seconds into the loop, from 0 to below 7.
+    [[nodiscard]] static double phase(Moment moment);
+
+    [[nodiscard]] double time() const { return time_; }
+    void setTime(double time);
+    /// Sets `time` to the loop's place at this moment of the wall clock.
+    Q_INVOKABLE void showNow();
+
+    /// Of the whole drawing, 0 to 1.
+    [[nodiscard]] double opacity() const;
+    /// The tip of the pointer, in points of the drawing from its top left.
+    [[nodiscard]] QPointF pointer() const;
+    /// Smaller while the pointer presses.
+    [[nodiscard]] double pointerScale() const;
+    /// How far the switch is on, 0 to 1.
+    [[nodiscard]] double switchedOn() const;
+
+  Q_SIGNALS:
+    void timeChanged();
+
+  private:
+    double time_ = 0;
+};
+
+}  // namespace velmora

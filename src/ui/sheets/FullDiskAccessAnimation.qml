@@ -1,0 +1,126 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Velmora
+
+/// A small window of the system's settings in which a pointer turns on the Velmora switch, over and
+/// over. It is redrawn with every frame while it can be seen.
+Item {
+    id: animation
+
+    implicitWidth: 320
+    implicitHeight: 200
+    Accessible.role: Accessible.Animation
+    Accessible.name: "An animation of turning on the Velmora switch under Full Disk Access in System Settings"
+
+    FullDiskAccessTimeline {
+        id: timeline
+        Component.onCompleted: showNow()
+    }
+    FrameAnimation {
+        running: animation.visible
+        onTriggered: timeline.showNow()
+    }
+
+    Rectangle {
+        id: pane
+        anchors.fill: parent
+        opacity: timeline.opacity
+        layer.enabled: opacity < 1
+        radius: Theme.panelRadius
+        color: Theme.windowBackground
+        border.color: Theme.controlBorder
+
+        Row {
+            x: 13
+            y: 13
+            spacing: 7
+
+            Repeater {
+                model: ["#ff5f57", "#febc2e", "#28c840"]
+
+                Rectangle {
+                    required property color modelData
+
+                    width: 10
+                    height: 10
+                    radius: 5
+                    color: modelData
+                }
+            }
+        }
+        BodyText {
+            y: 9
+            width: parent.width
+            text: "Full Disk Access"
+            font.weight: Font.DemiBold
+            horizontalAlignment: Text.AlignHCenter
+            Accessible.ignored: true
+        }
+        HorizontalDivider {
+            y: 36
+            width: parent.width
+        }
+        BodyText {
+            x: 14
+            y: 47
+            width: parent.width - 28
+            text: "Allow the applications below to access all of your files."
+            color: Theme.secondary
+            font.pixelSize: 10
+            Accessible.ignored: true
+        }
+        Rectangle {
+            x: 14
+            y: 68
+            width: parent.width - 28
+            height: 44
+            radius: 8
+            color: Theme.groupBackground
+            border.color: Theme.separator
+
+            Image {
+                x: 10
+                y: 9
+                source: "qrc:/velmora/icon/velmora.svg"
+                sourceSize.width: 26
+                sourceSize.height: 26
+            }
+            BodyText {
+                x: 45
+                height: parent.height
+                verticalAlignment: Text.AlignVCenter
+                text: "Velmora.app"
+                Accessible.ignored: true
+            }
+            Rectangle {
+                x: 240
+                y: 11
+                width: 38
+                height: 22
+                radius: 11
+                color: Theme.dark ? "#5c5c61" : "#d2d2d7"
+
+                Rectangle {
+                    anchors.fill: parent
+                    radius: parent.radius
+                    color: Theme.accent
+                    opacity: timeline.switchedOn
+                }
+                Rectangle {
+                    x: 2 + 16 * timeline.switchedOn
+                    y: 2
+                    width: 18
+                    height: 18
+                    radius: 9
+                    color: "#ffffff"
+                }
+            }
+        }
+        ArrowPointer {
+            x: timeline.pointer.x
+            y: timeline.pointer.y
+            scale: timeline.pointerScale
+            transformOrigin: Item.TopLeft
+        }
+    }
+}
