@@ -12,11 +12,20 @@ using namespace Qt::StringLiterals;
 /// The suspension of a paused run, and the answer that ends it.
 class Runner::Pause {
   public:
-    explicit Pause(Clock& clock) : clock_(&clock) {}
+    /// What the run awaits. It only points to the pause, for g++ 12 awaits a copy of a local.
+    class Answer {
+      public:
+        explicit Answer(Pause& pause) : pause_(&pause) {}
 
-    [[nodiscard]] bool await_ready() const noexcept { return answer_.has_value(); }
-    void await_suspend(std::coroutine_handle<> task) noexcept { task_ = task; }
-    [[nodiscard]] bool await_resume() const noexcept { return answer_.value_or(false); }
+        [[nodiscard]] bool await_ready() const noexcept { return pause_->answer_.has_value(); }
+        void await_suspend(std::coroutine_handle<> task) noexcept { pause_->task_ = task; }
+        [[nodiscard]] bool await_resume() const noexcept { return pause_->answer_.value_or(false); }
+
+      private:
+        Pause* pause_;
+    };
+
+    explicit Pause(Clock& clock) : clock_(&clock) {}
 
     /// Ends the pause at the event loop's next turn.
     void end(bool goOn) {
@@ -197,7 +206,7 @@ QCoro::Task<bool> Runner::pause(QString reason) {
     nextIn = std::nullopt;
     // Last, for whoever hears of it may answer at once.
     state = State::paused;
-    const bool resumed = co_await paused;
+    const bool resumed = co_await Pause::Answer(paused);
     unwindWithout(life);
     // A stop may have come after the answer.
     co_return resumed && !stopRequested_;
