@@ -3,6 +3,7 @@
 #include <sqlite3.h>
 
 #include <QDir>
+#include <algorithm>
 #include <limits>
 
 namespace velmora {
@@ -51,12 +52,12 @@ MessagesDB::Row readRow(const Statement& statement) {
 
 QString textOf(const MessagesDB::Value& value) {
     const auto* text = std::get_if<QString>(&value);
-    return text ? *text : QString();
+    return text != nullptr ? *text : QString();
 }
 
 qint64 integerOf(const MessagesDB::Value& value) {
     const auto* integer = std::get_if<qint64>(&value);
-    return integer ? *integer : 0;
+    return integer != nullptr ? *integer : 0;
 }
 
 QString placeholders(qsizetype count) {
@@ -98,8 +99,9 @@ std::expected<MessagesDB, DBError> MessagesDB::open(const QString& path) {
         sqlite3_open_v2(path.toUtf8().constData(), &connection, SQLITE_OPEN_READONLY, nullptr);
     MessagesDB history{std::unique_ptr<sqlite3, Closer>(connection)};
     if (code != SQLITE_OK) {
-        const QString message = connection ? QString::fromUtf8(sqlite3_errmsg(connection))
-                                           : QStringLiteral("unknown error");
+        const QString message = connection != nullptr
+                                    ? QString::fromUtf8(sqlite3_errmsg(connection))
+                                    : QStringLiteral("unknown error");
         return std::unexpected(DBError{DBError::Kind::open, message});
     }
     auto probe = history.query(QStringLiteral("SELECT 1 FROM message LIMIT 1"), {});
@@ -141,9 +143,9 @@ std::expected<std::vector<NumberInfo>, DBError> MessagesDB::senderNumbers(Moment
         return std::unexpected(std::move(rows.error()));
     std::vector<NumberInfo> numbers;
     for (const Row& row : *rows) {
-        const auto* number = std::get_if<QString>(&row[0]);
-        const auto* count = std::get_if<qint64>(&row[1]);
-        if (number && count)
+        const auto* number = std::get_if<QString>(&row.front());
+        const auto* count = std::get_if<qint64>(&row.back());
+        if (number != nullptr && count != nullptr)
             numbers.push_back({*number, *count});
     }
     return numbers;

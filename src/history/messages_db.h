@@ -16,7 +16,8 @@ struct sqlite3;
 namespace velmora {
 
 /// The history's unit of time: whole nanoseconds since 2001-01-01 00:00:00 UTC, cut toward zero. A
-/// moment beyond what 64 bits hold gives the nearest end of their range.
+/// moment beyond what 64 bits hold gives the nearest end of their range; one that is no number
+/// gives the latest, since which nothing was sent.
 [[nodiscard]] qint64 historyTimestamp(Moment moment);
 
 /// The forms under which the history may hold a phone: itself, without its leading "+" signs, and,

@@ -1,0 +1,141 @@
+#include "contacts/contacts_service.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+namespace velmora {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+using People = std::expected<std::vector<ContactRecord>, ContactsError>;
+
+/// An address book of what a test puts in. Reading or asking for anything else fails the test.
+class BookInMemory final : public ContactSource {
+  public:
+    ContactAccess permission = ContactAccess::authorized;
+    std::optional<bool> answer;  ///< to being asked for access
+    std::vector<ContactRecord> everyone;
+    std::optional<ContactsError> failure;  ///< of reading everyone, after they were handed out
+    std::expected<std::vector<GroupRecord>, ContactsError> groups;
+    std::vector<std::pair<QString, People>> members;
+
+    [[nodiscard]] ContactAccess access() const override { return permission; }
+    QCoro::Task<bool> requestAccess() override {
+        EXPECT_TRUE(answer.has_value()) << "asked for access";
+        co_return answer.value_or(false);
+    }
+    std::expected<void, ContactsError> enumerateContacts(
+        const std::function<void(ContactRecord)>& visit) override {
+        for (const ContactRecord& person : everyone)
+            visit(person);
+        if (failure)
+            return std::unexpected(*failure);
+        return {};
+    }
+    People membersOfGroup(const QString& identifier) override {
+        for (const auto& [group, people] : members) {
+            if (group == identifier)
+                return people;
+        }
+        ADD_FAILURE() << "read the group " << identifier.toStdString();
+        return {};
+    }
+    std::expected<std::vector<GroupRecord>, ContactsError> allGroups() override { return groups; }
+    [[nodiscard]] QString localizedLabel(const QString& label) const override {
+        return label == u"_$!<Home>!$_" ? u"casa"_s : label;
+    }
+};
+
+ContactRecord personWith(std::vector<PhoneEntry> phones) {
+    ContactRecord person;
+    person.phoneNumbers = std::move(phones);
+    return person;
+}
+
+bool granted(ContactsService& service) {
+    std::optional<bool> result;
+    service.requestAccess().then([&result](bool allowed) { result = allowed; });
+    EXPECT_TRUE(result.has_value());
+    return result.value_or(false);
+}
+
+TEST(ContactsAccess, AsksOnlyWhenItIsNotYetAuthorized) {
+    BookInMemory book;
+    ContactsService service(book);
+    EXPECT_TRUE(granted(service));
+    for (const auto permission :
+         {ContactAccess::notDetermined, ContactAccess::restricted, ContactAccess::denied}) {
+        book.permission = permission;
+        for (const bool answer : {true, false}) {
+            book.answer = answer;
+            EXPECT_EQ(granted(service), answer);
+        }
+    }
+}
+
+TEST(ContactsOfAList, LeaveOutWhoHasNoNumberOnlyInAllContacts) {
+    BookInMemory book;
+    ContactsService service(book);
+    EXPECT_EQ(service.contactsInList(allContactsID)->size(), 0);
+    book.everyone = {personWith({{{}, u"12"_s}}), personWith({})};
+    book.members = {{u"club"_s, book.everyone}};
+    EXPECT_EQ(service.contactsInList(allContactsID)->size(), 1) << "unusable numbers count too";
+    EXPECT_EQ(service.contactsInList(u"club"_s)->size(), 2);
+    book.failure = ContactsError{u"The store is gone."_s};
+    EXPECT_EQ(service.contactsInList(allContactsID).error().description, u"The store is gone.");
+}
+
+TEST(ContactsGroups, AreCountedAndSortedWhateverTheLetterCase) {
+    BookInMemory book;
+    ContactsService service(book);
+    EXPECT_TRUE(service.readGroups()->empty());
+    book.groups = {{{u"1"_s, u"work"_s}, {u"2"_s, u"Club"_s}, {u"3"_s, u"Work"_s}}};
+    book.members = {{u"1"_s, std::vector{personWith({}), personWith({{{}, u"5551234567"_s}})}},
+                    {u"2"_s, std::unexpected(ContactsError{u"Unknown group."_s})},
+                    {u"3"_s, {}}};
+    const std::vector<GroupInfo> expected{
+        {u"2"_s, u"Club"_s, 0}, {u"1"_s, u"work"_s, 2}, {u"3"_s, u"Work"_s, 0}};
+    EXPECT_EQ(service.readGroups().value(), expected);
+    book.groups = std::unexpected(ContactsError{u"No permission."_s});
+    EXPECT_EQ(service.readGroups().error().description, u"No permission.");
+}
+
+TEST(BestPhoneOfAPerson, IsTheFirstUsableOneOfTheHighestRank) {
+    const QString home = u"_$!<Home>!$_"_s;
+    const PhoneEntry atHome{home, u"(415) 555-0100"_s};
+    const PhoneEntry mobile{PhoneLabel::mobile, u"415 555 0101"_s};
+    const PhoneEntry iPhone{PhoneLabel::iPhone, u"415 555 0102"_s};
+    const PhoneEntry main{PhoneLabel::main, u"415 555 0103"_s};
+    const PhoneEntry secondMobile{PhoneLabel::mobile, u"415 555 0104"_s};
+    const PhoneEntry shortMobile{PhoneLabel::mobile, u"41555"_s};
+    const PhoneEntry custom{u"boat"_s, u"+44 7700 900 123"_s};
+    const PhoneEntry bare{{}, u"1 415 555 0105"_s};
+    struct Case {
+        std::vector<PhoneEntry> card;
+        QString phone;
+        QString label;
+    };
+    const std::vector<Case> cases{
+        {{atHome, main, iPhone, mobile, secondMobile}, u"+14155550101"_s, PhoneLabel::mobile},
+        {{atHome, main, iPhone}, u"+14155550102"_s, PhoneLabel::iPhone},
+        {{custom, atHome, main}, u"+14155550103"_s, PhoneLabel::main},
+        {{atHome, shortMobile, custom}, u"+14155550100"_s, u"casa"_s},
+        {{custom, atHome}, u"+447700900123"_s, u"boat"_s},
+        {{bare, custom}, u"+14155550105"_s, QString()},
+    };
+    BookInMemory book;
+    const ContactsService service(book);
+    for (const Case& each : cases) {
+        const BestPhone best = service.bestPhone(personWith(each.card)).value_or(BestPhone());
+        EXPECT_EQ(best.phone, each.phone);
+        EXPECT_EQ(best.label, each.label);
+    }
+    EXPECT_FALSE(service.bestPhone(personWith({shortMobile})).has_value());
+}
+
+}  // namespace
+
+}  // namespace velmora

@@ -1,0 +1,160 @@
+#include "history/messages_db.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "history/history_file.h"
+
+namespace velmora {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+using Range = std::numeric_limits<qint64>;
+
+class MessagesDBTest : public HistoryFile {
+  protected:
+    [[nodiscard]] QString whyNotOpened() const {
+        const auto history = MessagesDB::open(path());
+        return history ? u"opened"_s : history.error().description();
+    }
+    /// The line of Ann's thread.
+    [[nodiscard]] std::optional<QString> threadLine(const QStringList& otherHandles = {}) const {
+        const auto thread = open().thread(annsPhone, otherHandles).value();
+        return thread.transform([](const ThreadInfo& found) { return found.line; });
+    }
+};
+
+TEST(HistoryTimestamp, IsCutTowardZeroAndStaysInRange) {
+    EXPECT_EQ(historyTimestamp({763657200.5}), 763657200'500'000'000);
+    EXPECT_EQ(historyTimestamp({1.5e-9}), 1);
+    EXPECT_EQ(historyTimestamp({-1.5e-9}), -1);
+    EXPECT_EQ(historyTimestamp({1e300}), Range::max());
+    EXPECT_EQ(historyTimestamp({-1e300}), Range::min());
+    EXPECT_EQ(historyTimestamp({std::numeric_limits<double>::quiet_NaN()}), Range::max());
+}
+
+TEST(HandleVariants, KeepTheirOrderAndDuplicates) {
+    EXPECT_EQ(handleVariants(annsPhone).join(u' '), u"+15551234567 15551234567 5551234567");
+    EXPECT_EQ(handleVariants(u"+447700900123"_s).join(u' '), u"+447700900123 447700900123");
+    EXPECT_EQ(handleVariants(u"++1555"_s).join(u' '), u"++1555 1555");
+    EXPECT_EQ(handleVariants(u"1555"_s).join(u' '), u"1555 1555");
+}
+
+TEST_F(MessagesDBTest, SaysInASentenceWhyItCannotBeRead) {
+    EXPECT_EQ(whyNotOpened(), u"Couldn't open Messages history: unable to open database file");
+    EXPECT_FALSE(QFile::exists(path())) << "opening made a file";
+    overwrite("no database, but long enough to be looked at as if it were one");
+    EXPECT_EQ(whyNotOpened(), u"Couldn't read Messages history: file is not a database");
+    overwrite("");
+    EXPECT_EQ(whyNotOpened(), u"Couldn't read Messages history: no such table: message");
+    change("CREATE TABLE message (a)");
+    EXPECT_EQ(whyNotOpened(), u"opened") << "no row is no failure";
+    const auto writer = change("BEGIN EXCLUSIVE");
+    EXPECT_EQ(whyNotOpened(), u"Couldn't read Messages history: database is locked");
+}
+
+TEST_F(MessagesDBTest, ReadsEachColumnByItsStorageAndAnyBytes) {
+    record({.handle = annsPhone});
+    const auto rows = open()
+                          .query(
+                              u"SELECT ?, ?, NULL, 1.5, x'41', CAST(x'410042' AS TEXT),"
+                              "CAST(x'ff41' AS TEXT) UNION ALL SELECT 1,2,3,4,5,6,7"_s,
+                              {u"Zoë"_s, Range::min()})
+                          .value();
+    ASSERT_EQ(rows.size(), 2);
+    const MessagesDB::Row expected{u"Zoë"_s,
+                                   Range::min(),
+                                   {},
+                                   {},
+                                   {},
+                                   QString(u"A\0B"_s),
+                                   u"\uFFFD"
+                                   u"A"_s};
+    EXPECT_EQ(rows.front(), expected);
+}
+
+TEST_F(MessagesDBTest, LeavesTheFileAsItWas) {
+    record({.handle = annsPhone});
+    const auto bytes = [this] {
+        QFile file(path());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    };
+    const QByteArray before = bytes();
+    {
+        MessagesDB history = open();
+        EXPECT_TRUE(history.senderNumbers({0}).has_value());
+        EXPECT_TRUE(history.thread(annsPhone, {u"ann@example.com"_s}).has_value());
+        EXPECT_TRUE(history.lastSent(annsPhone, 0).has_value());
+        EXPECT_EQ(history.query(u"DELETE FROM message"_s, {}).error().description(),
+                  u"Couldn't read Messages history: attempt to write a readonly database");
+    }
+    EXPECT_EQ(bytes(), before);
+}
+
+TEST_F(MessagesDBTest, SenderNumbersAreTheSixBusiestUsedInNinetyDays) {
+    const Moment now{763657200};
+    const qint64 oldest = historyTimestamp(now) - 90 * 86400 * 1'000'000'000LL;
+    const auto add = [this](const QString& line, qint64 date, bool fromMe) {
+        record({.handle = annsPhone, .line = line, .date = date, .fromMe = fromMe});
+    };
+    add(u"+1"_s, oldest, true);
+    add(u"+1"_s, 0, false);
+    add(u"+2"_s, oldest - 1, true);
+    add(u"+2"_s, historyTimestamp(now), false);
+    add(u"me@example.com"_s, oldest, true);
+    record({.handle = annsPhone, .date = oldest});
+    EXPECT_EQ(open().senderNumbers(now).value(), (std::vector<NumberInfo>{{u"+1"_s, 2}}));
+    EXPECT_EQ(open().senderNumbers({-1e300}).value().size(), 2) << "no bound lies before all time";
+    for (int number = 3; number <= 9; ++number) {
+        for (int message = 0; message < number; ++message)
+            add(u"+%1"_s.arg(number), oldest, true);
+    }
+    const std::vector<NumberInfo> busiest{{u"+9"_s, 9}, {u"+8"_s, 8}, {u"+7"_s, 7},
+                                          {u"+6"_s, 6}, {u"+5"_s, 5}, {u"+4"_s, 4}};
+    EXPECT_EQ(open().senderNumbers(now).value(), busiest);
+}
+
+TEST_F(MessagesDBTest, ThreadIsTheNewestGoodMessageOfAOneToOneChat) {
+    record({.handle = annsPhone, .line = u"+group"_s, .date = 9}, ChatStyle::group);
+    EXPECT_EQ(threadLine(), std::nullopt);
+    record({.handle = u"5551234567"_s, .line = u"+sent"_s, .date = 1});
+    EXPECT_EQ(threadLine(), u"+sent");
+    record({.handle = annsPhone, .line = u"+received"_s, .date = 2, .fromMe = false});
+    record({.handle = annsPhone, .line = u"+failed"_s, .date = 3, .error = 22});
+    EXPECT_EQ(threadLine(), u"+received");
+    record({.handle = u"ann@example.com"_s, .service = u"SMS"_s, .date = 4});
+    record({.handle = u"Cy@example.com"_s, .line = u"+asTyped"_s, .date = 5});
+    EXPECT_EQ(threadLine({u"Ann@Example.com"_s}), QString()) << "a NULL line, in lower case";
+    EXPECT_EQ(
+        open().thread(annsPhone, {u"ANN@example.com"_s}).value().value_or(ThreadInfo()).service,
+        u"SMS");
+    EXPECT_EQ(threadLine({u"Ann@Example.com"_s, u"Cy@example.com"_s}), u"+asTyped");
+    change("DROP TABLE handle");
+    EXPECT_EQ(open().thread(annsPhone, {}).error().description(),
+              u"Couldn't read Messages history: no such table: handle");
+}
+
+TEST_F(MessagesDBTest, LastSentIsTheNewestFromMeSinceThen) {
+    record({.handle = u"15551234567"_s, .date = 5, .error = 22});
+    record({.handle = annsPhone, .service = u"SMS"_s, .line = u"+1"_s, .date = 7, .sent = true});
+    record({.handle = annsPhone, .date = 9, .fromMe = false});
+    record({.handle = u"+15550000000"_s, .date = 9});
+    EXPECT_FALSE(open().lastSent(annsPhone, 8).value().has_value());
+    const SentRecord newest = open().lastSent(annsPhone, 7).value().value_or(SentRecord());
+    EXPECT_EQ(newest.service + newest.line, u"SMS+1");
+    EXPECT_TRUE(newest.sent && !newest.delivered && newest.error == 0);
+    change(
+        "UPDATE message SET service = x'41', destination_caller_id = 1.5, error = 'x',"
+        "is_sent = 0.5, is_delivered = -2");
+    const SentRecord odd = open().lastSent(annsPhone, 7).value().value_or(SentRecord());
+    EXPECT_TRUE(odd.service.isEmpty() && odd.error == 0 && !odd.sent && odd.delivered);
+    change("DROP TABLE handle");
+    EXPECT_FALSE(open().lastSent(annsPhone, 7).has_value());
+}
+
+}  // namespace
+
+}  // namespace velmora
