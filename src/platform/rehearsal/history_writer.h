@@ -20,13 +20,14 @@ namespace velmora {
 struct HistoryMessage {
     QString handle;  ///< the other party's phone number or address
     QString service = QStringLiteral("iMessage");
-    std::optional<QString> line;  ///< the user's own number or address; NULL when absent
-    qint64 date = 0;              ///< nanoseconds since 2001-01-01 00:00:00 UTC
+    /// The user's own number or address; NULL when absent.
+    std::optional<QString> line = std::nullopt;
+    qint64 date = 0;  ///< nanoseconds since 2001-01-01 00:00:00 UTC
     bool fromMe = true;
     qint64 error = 0;  ///< 0 is none
     bool sent = false;
     bool delivered = false;
-    QString text;
+    QString text = QStringLiteral("");
 };
 
 /// The styles of a conversation, with the numbers that the history stores.
