@@ -1,0 +1,165 @@
+#include "sending/sending_world.h"
+
+namespace velmora {
+namespace {
+
+using State = Runner::State;
+
+class RunnerTest : public ::testing::Test, protected SendingWorld {};
+
+// Catches people texted twice under one run name, a cap that counts those already sent, and a
+// failed person who is never tried again.
+TEST_F(RunnerTest, TheNextRunOfANameContinues) {
+    config.maxPerRun = 2;
+    messages({{phone(1), R"({"scriptError": "No."})"}});
+    runAll(5);
+    expectDone(u"Finished. 2 of 2 processed. 1 failed."_s);
+
+    config.maxPerRun = 0;
+    messages({});
+    runAll(5);
+    expectDone(u"Finished. 1 of 1 processed."_s);
+    EXPECT_EQ(runner->log().back().phone, phone(1));
+
+    config.maxPerRun = 60;
+    runAll(5);
+    expectDone(u"Finished. 3 of 3 processed."_s);
+    EXPECT_EQ(file(), displayed());
+    EXPECT_EQ(runner->log().size(), 6);
+
+    runAll(5);
+    expectDone(u"Finished. 0 of 0 processed."_s);
+    EXPECT_EQ(scripts.count, 6);
+}
+
+// Catches a question for every person, and a run that a second start disturbs.
+TEST_F(RunnerTest, AsksOnceOutsideTheSendingHours) {
+    clock().advance(10.25 * 3600);
+    const QString question =
+        u"Outside your sending hours (10:00 to 20:00). Resume to send anyway, or stop and run later."_s;
+    runAll(3);
+    expectPaused(question);
+    EXPECT_EQ(activities.held, 1);
+    start(1);
+    EXPECT_EQ(runner->total, 3);
+    runner->resume();
+    settle();
+    expectDone(u"Finished. 3 of 3 processed."_s);
+
+    runner->start(u"Another"_s, people(2), config);
+    settle();
+    expectPaused(question);
+    runner->stop();
+    EXPECT_EQ(runner->state.value(), State::stopping);
+    settle();
+    expectDone(u"Stopped after 0 of 2."_s);
+}
+
+// Catches a wait out of range, a countdown that is cut instead of rounded up, and one that is left
+// standing or shown where nothing waits.
+TEST_F(RunnerTest, CountsDownBetweenTwoSends) {
+    config.delayMin = 60;
+    config.delayMax = 30;
+    int countdowns = 0;
+    QObject::connect(runner.get(), &Runner::nextInChanged, [&countdowns] { ++countdowns; });
+    runAll(1);
+    EXPECT_EQ(countdowns, 0);
+
+    runner->start(u"Another"_s, people(2), config);
+    clock().advance(2.0);
+    const auto first = runner->nextIn.value();
+    ASSERT_TRUE(first);
+    EXPECT_TRUE(*first > 30 && *first <= 60);
+    EXPECT_FALSE(runner->current.value());
+    clock().advance(1.0);
+    EXPECT_EQ(runner->nextIn.value(), *first - 1);
+    settle();
+    const auto& log = runner->log();
+    EXPECT_GE(log[1].time.seconds - log[0].time.seconds, 30);
+    EXPECT_LE(log[1].time.seconds - log[0].time.seconds, 63);
+}
+
+// Catches a stop that is lost, late, or cuts a send in progress short.
+TEST_F(RunnerTest, StopsInEveryState) {
+    runner->stop();
+    runner->resume();
+    EXPECT_EQ(runner->state.value(), State::idle);
+
+    start(3);
+    runner->stop();
+    settle();
+    expectDone(u"Stopped after 0 of 3."_s);
+
+    start(3);
+    clock().advance(1);
+    EXPECT_EQ(runner->current.value(), u"Person 0"_s);
+    runner->stop();
+    runner->resume();
+    settle();
+    expectDone(u"Stopped after 1 of 3."_s);
+    EXPECT_EQ(outcome(0), u"sent|iMessage|"_s + line + u"|"_s);
+
+    start(3);
+    clock().advance(5);
+    ASSERT_TRUE(runner->nextIn.value());
+    const double asked = clock().uptime();
+    runner->stop();
+    settle();
+    EXPECT_LE(clock().uptime() - asked, 0.5);
+    expectDone(u"Stopped after 1 of 2."_s);
+    runner->stop();
+    EXPECT_EQ(runner->state.value(), State::done);
+}
+
+// Catches a text that leaves although the user stopped right after the resume, and an answer that
+// is lost because it comes while the pause is being announced.
+TEST_F(RunnerTest, TakesAnAnswerAtAnyMoment) {
+    clock().advance(10.25 * 3600);
+    runAll(2);
+    runner->resume();
+    EXPECT_EQ(runner->state.value(), State::running);
+    EXPECT_EQ(runner->message.value(), QString());
+    runner->stop();
+    settle();
+    expectDone(u"Stopped after 0 of 2."_s);
+    EXPECT_EQ(scripts.count, 0);
+
+    QObject::connect(runner.get(), &Runner::stateChanged, runner.get(),
+                     [this] { runner->resume(); });
+    runAll(2);
+    expectDone(u"Finished. 2 of 2 processed."_s);
+}
+
+// Catches a wait that follows the wall clock: set back an hour, a run would stand still.
+TEST_F(RunnerTest, WaitsWhateverTheWallClockSays) {
+    start(2);
+    clock().advance(4);
+    clock().shiftWall(-3600);
+    clock().advance(120);
+    expectDone(u"Finished. 2 of 2 processed."_s);
+}
+
+class RunnerEndTest : public RunnerTest, public ::testing::WithParamInterface<double> {};
+
+// Catches a suspended task that goes on without its runner: sends, or touches freed memory.
+TEST_P(RunnerEndTest, NothingGoesOnWithoutTheRunner) {
+    config.verifyWait = 6;
+    config.quietEnd = u"11:01"_s;
+    messages({{phone(0), R"({"iMessage": {"recordAfter": 10, "error": 22}})"}});
+    start(3);
+    clock().advance(GetParam());
+    if (runner->state == State::paused && GetParam() > 300)
+        runner->resume();
+    const int before = scripts.count;
+    runner.reset();
+    EXPECT_EQ(activities.held, 0);
+    settle();
+    EXPECT_EQ(scripts.count, before);
+}
+
+// Before the first step, in the wait for the history, in the wait between two sends, in the
+// fallback of a pending send, in a pause, and between a resume and its task.
+INSTANTIATE_TEST_SUITE_P(AtAnyMoment, RunnerEndTest, ::testing::Values(-1, 1, 9, 13, 200, 301));
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,204 @@
+#include "sending/sending_world.h"
+
+namespace velmora {
+namespace {
+
+using State = Runner::State;
+
+const QString noRecord = u"No record in Messages yet. Check the thread on your phone."_s;
+const QString otherLine = u"+15550100002"_s;
+
+class VerificationTest : public ::testing::Test, protected SendingWorld {
+  protected:
+    VerificationTest() { config.maxFailures = 100; }
+
+    LogEntry entry(int person, const QString& status) {
+        LogEntry made;
+        made.time = clock().now();
+        made.batch = batch;
+        made.phone = phone(person);
+        made.service = u"kept"_s;
+        made.status = status;
+        made.detail = u"detail"_s;
+        return made;
+    }
+};
+
+// Catches a fallback that is missing, made after a failed script, or counted as a failure of its
+// own.
+TEST_F(VerificationTest, SendsAgainBySmsOnlyWhenIMessageFailed) {
+    messages({{phone(0), R"({"iMessage": {"error": 22}})"},
+              {phone(1), R"({"error": 22, "SMS": {"error": 3}})"},
+              {phone(2), R"({"scriptError": "Messages got an error."})"}});
+    runAll(4);
+    expectDone(u"Finished. 4 of 4 processed. 2 failed."_s);
+    EXPECT_EQ(outcome(0), u"sent|SMS (fallback)|"_s + line + u"|"_s);
+    EXPECT_EQ(outcome(1), u"failed|SMS|"_s + line + u"|Messages error 3"_s);
+    EXPECT_EQ(outcome(2), u"failed|iMessage||Messages got an error."_s);
+    EXPECT_EQ(outcome(3), u"sent|iMessage|"_s + line + u"|"_s);
+    EXPECT_EQ(scripts.count, 6);
+}
+
+// Catches a detail that cuts a character in two.
+TEST_F(VerificationTest, KeepsTheFirst200CharactersOfAnError) {
+    const QString family = u"\U0001F468\u200D\U0001F469\u200D\U0001F467"_s;
+    messages({{phone(0), R"({"scriptError": ")" + family.repeated(201).toUtf8() + R"("})"}});
+    runAll(1);
+    EXPECT_EQ(runner->log()[0].detail, family.repeated(200));
+}
+
+// Catches a wait that lasts its whole time although the history has answered.
+TEST_F(VerificationTest, GoesOnAtThePollAfterTheConfirmation) {
+    messages({{phone(0), R"({"sentAfter": 3, "deliveredAfter": null})"}});
+    const Moment begun = clock().now();
+    runAll(1);
+    EXPECT_EQ(runner->log()[0].time, begun + 4);
+}
+
+// Catches a late confirmation that moves its line, changes its time or never reaches the file.
+TEST_F(VerificationTest, ALateConfirmationReplacesTheLineInPlace) {
+    messages({{phone(0), R"({"sentAfter": 40, "deliveredAfter": null})"}});
+    std::vector<qsizetype> changes;
+    QObject::connect(runner.get(), &Runner::logEntryChanged,
+                     [&changes](qsizetype index) { changes.push_back(index); });
+    start(3);
+    clock().advance(23);
+    EXPECT_EQ(outcome(0), u"sent_unverified|iMessage|"_s + line +
+                              u"|Messages hasn't confirmed it yet. Check the thread."_s);
+    const LogEntry first = runner->log()[0];
+    settle();
+    expectDone(u"Finished. 3 of 3 processed."_s);
+    EXPECT_EQ(outcome(0), u"sent|iMessage|"_s + line + u"|"_s);
+    EXPECT_EQ(runner->log()[0].time, first.time);
+    EXPECT_NE(runner->log()[0].id, first.id);
+    EXPECT_EQ(changes, std::vector<qsizetype>{0});
+    EXPECT_EQ(file(), displayed());
+}
+
+// Catches a pending send without its fallback, one whose fallback's own pending send is lost or
+// tried by SMS again, and a failure found while waiting that pauses nothing.
+TEST_F(VerificationTest, APendingSendFallsBackOnceAndItsFailureCounts) {
+    config.maxFailures = 1;
+    messages({{phone(0), R"({"iMessage": {"recordAfter": 21, "error": 22}})"},
+              {phone(1), R"({"recordAfter": 21, "error": 22})"}});
+    start(3);
+    clock().advance(23);
+    EXPECT_EQ(outcome(0), u"sent_unverified|iMessage||"_s + noRecord);
+    const Moment first = runner->log()[0].time;
+    settle();
+    EXPECT_EQ(outcome(0), u"sent|SMS (fallback)|"_s + line + u"|"_s);
+    EXPECT_GT(runner->log()[0].time, first);
+    EXPECT_EQ(outcome(1), u"failed|SMS|"_s + line + u"|Messages error 22"_s);
+    expectPaused(u"1 sends in a row failed. Check Messages and your iPhone, then resume."_s);
+    EXPECT_EQ(runner->done, 2);
+    runner->resume();
+    settle();
+    expectDone(u"Finished. 3 of 3 processed. 1 failed."_s);
+    EXPECT_EQ(scripts.count, 5);
+    EXPECT_EQ(file(), displayed());
+}
+
+// Catches an SMS that leaves after the user stopped, and a stop that skips its one look.
+TEST_F(VerificationTest, AStopSettlesOnceWithoutSending) {
+    messages({{phone(0), R"({"recordAfter": 21, "error": 22})"}});
+    start(2);
+    clock().advance(24);
+    runner->stop();
+    settle();
+    expectDone(u"Stopped after 1 of 2. 1 failed."_s);
+    EXPECT_EQ(outcome(0), u"failed|iMessage|"_s + line + u"|Messages error 22"_s);
+    EXPECT_EQ(scripts.count, 1);
+}
+
+// Catches a wrong number that goes unnoticed, and an address taken for one.
+TEST_F(VerificationTest, PausesWhenATextLeftOnAnotherNumber) {
+    messages({{phone(0), R"({"line": "me@example.com"})"},
+              {phone(1), R"({"line": "+15550100002"})"},
+              {phone(3), R"({"line": "+15550100002", "error": 5})"}});
+    const QString reason =
+        u" got it from (555) 010-0002, not (555) 010-0001. Fix the line on your iPhone, then resume."_s;
+    runAll(5);
+    expectPaused(u"Person 1"_s + reason);
+    EXPECT_EQ(runner->done, 2);
+    runner->resume();
+    settle();
+    expectPaused(u"Person 3"_s + reason);
+    runner->stop();
+    settle();
+    expectDone(u"Stopped after 4 of 5. 1 failed."_s);
+    config.senderNumber.clear();
+    runner->start(u"Another"_s, people(5), config);
+    settle();
+    expectDone(u"Finished. 5 of 5 processed. 1 failed."_s);
+}
+
+// Catches a count of failures that an unverified send resets or adds to, that a sent one leaves
+// standing, and that goes on after the pause.
+TEST_F(VerificationTest, PausesAfterFailuresInARow) {
+    config.maxFailures = 3;
+    const QByteArray fails = R"({"scriptError": "No."})";
+    messages({{phone(0), fails},
+              {phone(2), fails},
+              {phone(3), fails},
+              {phone(4), R"({"sentAfter": null, "deliveredAfter": null})"},
+              {phone(5), fails},
+              {phone(6), fails},
+              {phone(7), fails}});
+    runAll(9);
+    expectPaused(u"3 sends in a row failed. Check Messages and your iPhone, then resume."_s);
+    EXPECT_EQ(runner->done, 6);
+    runner->resume();
+    settle();
+    expectDone(u"Finished. 9 of 9 processed. 6 failed."_s);
+}
+
+// Catches a run that an unreadable history stops or keeps from ending.
+TEST_F(VerificationTest, ARunWithoutTheHistoryEndsUnverified) {
+    runner = makeRunner(home.path() + u"/none.db"_s);
+    runAll(1);
+    expectDone(u"Finished. 1 of 1 processed."_s);
+    EXPECT_EQ(outcome(0), u"sent_unverified|iMessage||"_s + noRecord);
+    EXPECT_EQ(clock().uptime(), 20 + 120);
+    start(1);
+    EXPECT_EQ(runner->total, 0);
+}
+
+// Catches a stored line that is never settled, settled by an old text, or rewritten for nothing.
+TEST_F(VerificationTest, ALoadedLogIsSettledByTheHistory) {
+    for (const auto& [person, status] : {std::pair{0, statusUnverified},
+                                         {1, statusFailed},
+                                         {2, statusUnverified},
+                                         {3, statusFailed},
+                                         {4, statusSent}})
+        sendLog.append(entry(person, status));
+    const qint64 now = historyTimestamp(clock().now());
+    const auto record = [&](int person, qint64 secondsAgo, bool delivered) {
+        HistoryMessage message{.handle = phone(person)};
+        message.service = person == 1 ? u"SMS"_s : QString();
+        message.line = otherLine;
+        message.date = now - secondsAgo * 1'000'000'000;
+        message.delivered = delivered;
+        home.record(message);
+    };
+    record(2, 121, true);
+    record(3, 10, false);
+    runner->batch = batch;
+    const QByteArray before = file();
+    runner->reloadLog();
+    EXPECT_EQ(file(), before);
+    EXPECT_EQ(outcome(2), u"sent_unverified|kept||detail"_s);
+
+    record(0, 119, true);
+    record(1, 10, true);
+    record(4, 10, true);
+    runner->reloadLog();
+    EXPECT_EQ(outcome(0), u"sent|kept|"_s + otherLine + u"|"_s);
+    EXPECT_EQ(outcome(1), u"sent|SMS|"_s + otherLine + u"|"_s);
+    EXPECT_EQ(outcome(3), u"failed|kept||detail"_s);
+    EXPECT_EQ(outcome(4), u"sent|kept||detail"_s);
+    EXPECT_EQ(runner->log()[0].time, clock().now());
+    EXPECT_EQ(file(), displayed());
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,143 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <memory>
+
+#include "platform/rehearsal/messages_application.h"
+#include "sending/runner.h"
+#include "sending/send_outcome.h"
+#include "support/rehearsal_home.h"
+#include "support/virtual_surroundings.h"
+
+namespace velmora {
+
+using namespace Qt::StringLiterals;
+
+/// Passes scripts on to the rehearsal's Messages and counts them.
+class CountedScripts final : public ScriptRunner {
+  public:
+    explicit CountedScripts(ScriptRunner& messages) : messages_(messages) {}
+
+    [[nodiscard]] ScriptResult run(const QString& source) override {
+        ++count;
+        return messages_.run(source);
+    }
+
+    int count = 0;
+
+  private:
+    ScriptRunner& messages_;
+};
+
+/// Counts the activities that are held right now.
+class CountedActivities final : public ActivitySource {
+  public:
+    [[nodiscard]] std::unique_ptr<Activity> beginActivity(const QString& reason) override {
+        EXPECT_EQ(reason, u"Sending your messages"_s);
+        struct Held final : Activity {
+            explicit Held(int& count) : count(count) { ++count; }
+            ~Held() override { --count; }
+            int& count;
+        };
+        return std::make_unique<Held>(held);
+    }
+
+    int held = 0;
+};
+
+/// A runner with everything that it works with, at 11 in the morning. Texts leave on `line`, the
+/// chosen sending number, and are confirmed within 2 seconds, unless `messages` says otherwise.
+class SendingWorld {
+  public:
+    using State = Runner::State;
+
+    static inline const QString line = u"+15550100001"_s;
+    static inline const QString batch = u"Spring Party"_s;
+
+    SendingWorld() {
+        config.senderNumber = line;
+        messages({});
+        static_cast<void>(home.history());
+    }
+
+    /// What stands under some people's numbers in the settings of Messages.
+    void messages(const std::map<QString, QByteArray>& people) {
+        home.writeMessages(messagesOnLine(line, people));
+    }
+
+    /// The phone of the n-th person, from 0.
+    static QString phone(int n) { return u"+1555020%1"_s.arg(n, 4, 10, QChar(u'0')); }
+
+    static std::vector<Runner::Item> people(int count) {
+        std::vector<Runner::Item> items;
+        for (int n = 0; n < count; ++n)
+            items.push_back({u"Person %1"_s.arg(n), phone(n), u"Hello \"%1\"\n\\o/"_s.arg(n)});
+        return items;
+    }
+
+    void start(int count) { runner->start(batch, people(count), config); }
+
+    /// Lets the time pass until the run waits for the user or has ended.
+    void settle() { EXPECT_TRUE(surroundings.clock.runUntilIdle(1e5)); }
+
+    void runAll(int count) {
+        start(count);
+        settle();
+    }
+
+    void expectPaused(const QString& reason) {
+        EXPECT_EQ(runner->state.value(), State::paused);
+        EXPECT_EQ(runner->message.value(), reason);
+        EXPECT_FALSE(runner->nextIn.value());
+    }
+
+    void expectDone(const QString& summary) {
+        EXPECT_EQ(runner->state.value(), State::done);
+        EXPECT_EQ(runner->message.value(), summary);
+        EXPECT_FALSE(runner->current.value());
+        EXPECT_FALSE(runner->nextIn.value());
+        EXPECT_EQ(activities.held, 0);
+    }
+
+    /// The n-th line of the log, without what the test did not choose.
+    [[nodiscard]] QString outcome(size_t n) const {
+        const LogEntry& entry = runner->log().at(n);
+        return QStringList{entry.status, entry.service, entry.line, entry.detail}.join(u'|');
+    }
+
+    [[nodiscard]] QByteArray file() {
+        QFile stored(sendLog.logFile(batch));
+        EXPECT_TRUE(stored.open(QIODevice::ReadOnly));
+        return stored.readAll();
+    }
+
+    /// The file that the displayed log would make.
+    [[nodiscard]] QByteArray displayed() const {
+        QString text = u"time,batch,name,phone,service,line,status,detail\n"_s;
+        for (const LogEntry& entry : runner->log())
+            text += csvLine(entry);
+        return text.toUtf8();
+    }
+
+    [[nodiscard]] std::unique_ptr<Runner> makeRunner(const QString& historyPath) {
+        return std::make_unique<Runner>(
+            Runner::Tools{sender, activities, sendLog, historyPath, surroundings.handed()});
+    }
+
+    [[nodiscard]] VirtualClock& clock() { return surroundings.clock; }
+
+    VirtualSurroundings surroundings;
+    RehearsalHome home;
+    MessagesApplication rehearsal{surroundings.clock, home.path()};
+    CountedScripts scripts{rehearsal};
+    CountedActivities activities;
+    SupportFolder folder{home.applicationSupport()};
+    SendLog sendLog{folder, surroundings.clock};
+    MessageSender sender{scripts};
+    AppConfig config;
+    std::unique_ptr<Runner> runner = makeRunner(home.historyPath());
+};
+
+}  // namespace velmora
