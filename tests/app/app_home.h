@@ -1,0 +1,107 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QJsonDocument>
+
+#include "app/app_model.h"
+#include "platform/rehearsal/rehearsal_platform.h"
+#include "support/rehearsal_home.h"
+#include "support/virtual_surroundings.h"
+
+namespace velmora {
+
+using namespace Qt::StringLiterals;
+
+inline const QString myLine = QStringLiteral("+12125559999");
+inline const QString myOtherLine = QStringLiteral("+12125558888");
+
+/// Velmora in a home of its own: Ann, Bob and Joanne in the group Friends, all on iMessage, and a
+/// history that names one sending number.
+class AppHome : public ::testing::Test {
+  protected:
+    AppHome() {
+        friends({person(u"ann"_s, u"Ann"_s, u"Lee"_s, u"(212) 555-0101"_s),
+                 person(u"joanne"_s, u"Joanne"_s, u""_s, u"212 555 0103"_s),
+                 person(u"bob"_s, u"Bob"_s, u"Stone"_s, u"212 555 0102"_s)});
+        home.writeMessages(messagesOnLine(myLine));
+        thread(u"+12125550101"_s, myLine);
+    }
+
+    /// Makes these people the address book, all of them in Friends.
+    void friends(const std::vector<QByteArray>& people) {
+        QStringList ids;
+        for (const QByteArray& each : people)
+            ids.append(QJsonDocument::fromJson(each)[u"identifier"].toString());
+        home.writeContacts(addressBook(people, {{u"friends"_s, u"Friends"_s, ids}}));
+    }
+
+    /// Records a conversation with `phone` on `line`.
+    void thread(const QString& phone, const QString& line) {
+        HistoryMessage message;
+        message.handle = phone;
+        message.line = line;
+        message.date = historyTimestamp(world.clock.now() + -3600);
+        message.sent = true;
+        home.record(message);
+    }
+
+    /// A new model over the home, as after a restart.
+    AppModel& open() {
+        model.reset();
+        platform.emplace(makeRehearsalPlatform(world.clock, home.path()));
+        model = std::make_unique<AppModel>(Doors{*platform->contacts, *platform->scripts,
+                                                 *platform->accountPreferences, *platform->desktop},
+                                           world.handed(),
+                                           Places{platform->home, platform->applicationSupport});
+        return *model;
+    }
+
+    AppModel& started() {
+        open().bootstrap();
+        world.clock.advance(1);
+        EXPECT_TRUE(model->bootstrapped);
+        return *model;
+    }
+
+    /// Started, the terms accepted and Friends chosen.
+    AppModel& withFriends() {
+        started().acceptTerms();
+        model->selectGroup(u"friends"_s);
+        return *model;
+    }
+
+    [[nodiscard]] const Recipient& recipient(const QString& id) const {
+        for (const Recipient& each : model->recipients())
+            if (each.id == id)
+                return each;
+        throw std::runtime_error("no such recipient: " + id.toStdString());
+    }
+
+    [[nodiscard]] QStringList shown() const {
+        QStringList ids;
+        for (const qsizetype index : model->visibleRecipients())
+            ids.append(model->recipients()[static_cast<size_t>(index)].id);
+        return ids;
+    }
+
+    [[nodiscard]] QString settingsPath() const {
+        return home.applicationSupport() + u"/Velmora/config.json"_s;
+    }
+    [[nodiscard]] AppConfig stored() const {
+        SupportFolder folder(home.applicationSupport());
+        return ConfigStore(folder).load();
+    }
+    [[nodiscard]] std::vector<LogEntry> logged(const QString& batch) const {
+        SupportFolder folder(home.applicationSupport());
+        return SendLog(folder, world.clock).load(batch);
+    }
+
+    RehearsalHome home;
+    VirtualSurroundings world;
+    std::optional<Platform> platform;
+    std::unique_ptr<AppModel> model;
+};
+
+}  // namespace velmora
