@@ -1,9 +1,72 @@
+pragma ComponentBehavior: Bound
+import QtQuick
 import QtQuick.Controls.Basic
+import Velmora
 
+/// The main window: menus, content, sheets and the alert; and the windows that belong to it.
 ApplicationWindow {
     id: root
 
     required property Presentation presentation
 
-    title: root.presentation.window.title
+    readonly property bool nativeMenus: Qt.platform.os === "osx"
+    readonly property int barHeight: nativeMenus ? 0 : bar.height
+
+    width: 1240
+    height: 740 + barHeight
+    minimumWidth: 960
+    minimumHeight: 580 + barHeight
+    title: presentation.window.title
+    color: Theme.windowBackground
+    font.family: Theme.fontFamily
+
+    menuBar: WindowMenuBar {
+        id: bar
+        visible: !root.nativeMenus
+        commands: root.presentation.menus
+    }
+    MenuShortcuts {
+        active: !root.nativeMenus
+        presentation: root.presentation
+    }
+    Loader {
+        active: root.nativeMenus
+        Component.onCompleted: if (active) setSource("NativeMenuBar.qml", {
+            presentation: root.presentation
+        })
+    }
+
+    ContentView {
+        id: content
+        anchors.fill: parent
+        presentation: root.presentation
+    }
+    SheetHost {
+        presentation: root.presentation
+        titleBottom: root.barHeight + content.headerHeight
+    }
+
+    SettingsWindow {
+        id: settings
+        settings: root.presentation.settings
+    }
+    AboutWindow {
+        id: about
+    }
+    Connections {
+        target: root.presentation.window
+        function onSettingsRequested() {
+            settings.show();
+            settings.raise();
+            settings.requestActivate();
+        }
+    }
+    Connections {
+        target: root.presentation.menus
+        function onAboutRequested() {
+            about.show();
+            about.raise();
+            about.requestActivate();
+        }
+    }
 }

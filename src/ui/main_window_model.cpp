@@ -159,34 +159,6 @@ bool MainWindowModel::paused() const {
     return model_.runner().state == Runner::State::paused;
 }
 
-void MainWindowModel::selectShown() {
-    model_.selectShown();
-}
-
-void MainWindowModel::clearShown() {
-    model_.clearShown();
-}
-
-void MainWindowModel::reloadList() {
-    model_.loadList();
-}
-
-void MainWindowModel::requestRun() {
-    model_.requestRun();
-}
-
-void MainWindowModel::openSettings() {
-    model_.openSettings();
-}
-
-void MainWindowModel::openTerms() {
-    model_.openPage(ProductPage::terms);
-}
-
-void MainWindowModel::openSafeguards() {
-    model_.openPage(ProductPage::safeguards);
-}
-
 void MainWindowModel::windowShown() {
     if (!startUp_) {
         startUp_ = model_.bootstrap();

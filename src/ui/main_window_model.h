@@ -11,8 +11,8 @@
 
 namespace velmora {
 
-/// What the main window shows around its panes: title, banner, middle column, alert and sheet; and
-/// what its menus do. All of it is read from the application model at each look.
+/// What the main window shows around its panes: title, banner, middle column, alert and sheet. All
+/// of it is read from the application model at each look.
 class MainWindowModel final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -76,13 +76,6 @@ class MainWindowModel final : public QObject {
     [[nodiscard]] bool commandsEnabled() const;
     /// Whether a run is paused: then Command-Return belongs to its Resume button.
     [[nodiscard]] bool paused() const;
-    Q_INVOKABLE void selectShown();
-    Q_INVOKABLE void clearShown();
-    Q_INVOKABLE void reloadList();
-    Q_INVOKABLE void requestRun();
-    Q_INVOKABLE void openSettings();
-    Q_INVOKABLE void openTerms();
-    Q_INVOKABLE void openSafeguards();
 
     /// Starts the application model, at the first call only.
     void windowShown();

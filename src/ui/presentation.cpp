@@ -3,6 +3,15 @@
 namespace velmora {
 
 Presentation::Presentation(AppModel& model, Motion motion)
-    : motion_(motion), window_(model), sidebar_(model) {}
+    : motion_(motion),
+      window_(model),
+      menus_(model),
+      sidebar_(model),
+      recipients_(model),
+      compose_(model),
+      activity_(model.runner()),
+      confirm_(model),
+      settings_(model),
+      firstRun_(model) {}
 
 }  // namespace velmora

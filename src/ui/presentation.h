@@ -4,7 +4,14 @@
 #include <QtQmlIntegration>
 
 #include "app/app_model.h"
+#include "ui/activity_model.h"
+#include "ui/compose_model.h"
+#include "ui/confirm_model.h"
+#include "ui/first_run_model.h"
 #include "ui/main_window_model.h"
+#include "ui/menu_commands.h"
+#include "ui/recipients_model.h"
+#include "ui/settings_model.h"
 #include "ui/sidebar_model.h"
 
 namespace velmora {
@@ -19,7 +26,14 @@ class Presentation final : public QObject {
     QML_UNCREATABLE("Made with the main window")
     Q_PROPERTY(bool animated READ animated CONSTANT)
     Q_PROPERTY(velmora::MainWindowModel* window READ window CONSTANT)
+    Q_PROPERTY(velmora::MenuCommands* menus READ menus CONSTANT)
     Q_PROPERTY(velmora::SidebarModel* sidebar READ sidebar CONSTANT)
+    Q_PROPERTY(velmora::RecipientsModel* recipients READ recipients CONSTANT)
+    Q_PROPERTY(velmora::ComposeModel* compose READ compose CONSTANT)
+    Q_PROPERTY(velmora::ActivityModel* activity READ activity CONSTANT)
+    Q_PROPERTY(velmora::ConfirmModel* confirm READ confirm CONSTANT)
+    Q_PROPERTY(velmora::SettingsModel* settings READ settings CONSTANT)
+    Q_PROPERTY(velmora::FirstRunModel* firstRun READ firstRun CONSTANT)
 
   public:
     /// `model` outlives it.
@@ -27,12 +41,26 @@ class Presentation final : public QObject {
 
     [[nodiscard]] bool animated() const { return motion_ == Motion::animated; }
     [[nodiscard]] MainWindowModel* window() { return &window_; }
+    [[nodiscard]] MenuCommands* menus() { return &menus_; }
     [[nodiscard]] SidebarModel* sidebar() { return &sidebar_; }
+    [[nodiscard]] RecipientsModel* recipients() { return &recipients_; }
+    [[nodiscard]] ComposeModel* compose() { return &compose_; }
+    [[nodiscard]] ActivityModel* activity() { return &activity_; }
+    [[nodiscard]] ConfirmModel* confirm() { return &confirm_; }
+    [[nodiscard]] SettingsModel* settings() { return &settings_; }
+    [[nodiscard]] FirstRunModel* firstRun() { return &firstRun_; }
 
   private:
     Motion motion_;
     MainWindowModel window_;
+    MenuCommands menus_;
     SidebarModel sidebar_;
+    RecipientsModel recipients_;
+    ComposeModel compose_;
+    ActivityModel activity_;
+    ConfirmModel confirm_;
+    SettingsModel settings_;
+    FirstRunModel firstRun_;
 };
 
 }  // namespace velmora

@@ -1,0 +1,33 @@
+#include <QGuiApplication>
+#include <QIcon>
+
+#include "app/app_model.h"
+#include "core/system_surroundings.h"
+#include "platform/platform.h"
+#include "ui/main_window.h"
+
+using namespace velmora;
+
+/// Makes the world, the model and the window, and lets them live until the user quits.
+int main(int argc, char** argv) {
+    const QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationName(QStringLiteral("Velmora"));
+    QGuiApplication::setOrganizationName(QStringLiteral("Velmora"));
+    QGuiApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("velmora"));
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/velmora/icon/velmora.svg")));
+
+    SystemClock clock;
+    SystemRandomSource random;
+    ThreadBackground background;
+    Platform platform = makePlatform(clock);
+    AppModel model({.contacts = *platform.contacts,
+                    .scripts = *platform.scripts,
+                    .accountPreferences = *platform.accountPreferences,
+                    .desktop = *platform.desktop},
+                   {.clock = clock, .random = random, .background = background},
+                   {.home = platform.home, .applicationSupport = platform.applicationSupport});
+    MainWindow window(model, std::move(platform.symbols));
+    window.show();
+    return QGuiApplication::exec();
+}

@@ -1,0 +1,72 @@
+import QtQuick
+import QtQuick.Layouts
+import Velmora
+
+/// The main window's content: the sidebar, and beside it the list and the composer.
+Item {
+    id: content
+
+    required property Presentation presentation
+
+    readonly property int headerHeight: header.height
+    readonly property int detailMinimum: 380
+    readonly property int composeWidth: 340
+    readonly property int sidebarMinimum: 200
+    readonly property int sidebarMaximum: Math.min(300, width - detailMinimum - composeWidth - 2)
+    property int chosenSidebarWidth: 230
+
+    RowLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        SidebarView {
+            id: sidebar
+            Layout.fillHeight: true
+            Layout.preferredWidth: Math.max(content.sidebarMinimum,
+                                            Math.min(content.sidebarMaximum,
+                                                     content.chosenSidebarWidth))
+            model: content.presentation.sidebar
+        }
+        SplitHandle {
+            Layout.fillHeight: true
+            z: 1
+            value: sidebar.width
+            from: content.sidebarMinimum
+            to: content.sidebarMaximum
+            onMoved: value => content.chosenSidebarWidth = value
+        }
+        ColumnLayout {
+            spacing: 0
+
+            DetailHeader {
+                id: header
+                Layout.fillWidth: true
+                title: content.presentation.window.title
+                subtitle: content.presentation.window.subtitle
+            }
+            RowLayout {
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                spacing: 0
+
+                DetailView {
+                    Layout.fillWidth: true
+                    Layout.fillHeight: true
+                    Layout.minimumWidth: content.detailMinimum
+                    presentation: content.presentation
+                }
+                VerticalDivider {
+                    Layout.fillHeight: true
+                }
+                ComposePane {
+                    Layout.preferredWidth: content.composeWidth
+                    Layout.minimumWidth: content.composeWidth
+                    Layout.maximumWidth: content.composeWidth
+                    Layout.fillHeight: true
+                    model: content.presentation.compose
+                    activity: content.presentation.activity
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,45 @@
+import QtQuick
+import Velmora
+
+/// The head of the window's detail area: the list's name and how many are checked.
+Item {
+    id: header
+
+    required property string title
+    required property string subtitle
+
+    implicitHeight: 52
+
+    Column {
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.leftMargin: Theme.padding
+        anchors.rightMargin: Theme.padding
+        spacing: 1
+
+        BodyText {
+            width: parent.width
+            text: header.title
+            font.pixelSize: Theme.title3
+            font.weight: Font.DemiBold
+            wrapMode: Text.NoWrap
+            elide: Text.ElideRight
+            Accessible.role: Accessible.Heading
+        }
+        BodyText {
+            width: parent.width
+            visible: text.length > 0
+            text: header.subtitle
+            color: Theme.secondary
+            font.pixelSize: Theme.caption
+            wrapMode: Text.NoWrap
+            elide: Text.ElideRight
+        }
+    }
+
+    HorizontalDivider {
+        anchors.bottom: parent.bottom
+        width: parent.width
+    }
+}

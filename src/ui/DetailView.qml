@@ -1,0 +1,33 @@
+import QtQuick
+import QtQuick.Layouts
+import Velmora
+
+/// The middle column: what is still to do, and the chosen list or why there is none.
+ColumnLayout {
+    id: detail
+
+    required property Presentation presentation
+
+    spacing: 0
+
+    BannersView {
+        Layout.fillWidth: true
+        model: detail.presentation.window
+    }
+    EmptyState {
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        visible: !detail.presentation.window.showsList
+        icon: detail.presentation.window.emptyIcon
+        title: detail.presentation.window.emptyTitle
+        message: detail.presentation.window.emptyMessage
+        button: detail.presentation.window.emptyButton
+        onActivated: detail.presentation.window.openContactsSettings()
+    }
+    RecipientsPane {
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        visible: detail.presentation.window.showsList
+        model: detail.presentation.recipients
+    }
+}

@@ -1,0 +1,54 @@
+import QtQuick
+import Velmora
+
+/// What a column shows when it has nothing to show: a symbol, a heading, a sentence and at most one
+/// button.
+Item {
+    id: state
+
+    required property string icon
+    required property string title
+    required property string message
+    property string button
+
+    signal activated
+
+    Column {
+        anchors.centerIn: parent
+        width: parent.width - 2 * Theme.sheetPadding
+        spacing: 4
+
+        SymbolIcon {
+            anchors.horizontalCenter: parent.horizontalCenter
+            name: state.icon
+            size: 42
+            light: true
+            color: Theme.tertiary
+        }
+        BodyText {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            text: state.title
+            font.pixelSize: Theme.title3
+            font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
+        }
+        BodyText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.min(340, parent.width)
+            horizontalAlignment: Text.AlignHCenter
+            text: state.message
+            color: Theme.secondary
+            font.pixelSize: Theme.callout
+        }
+        PushButton {
+            anchors.horizontalCenter: parent.horizontalCenter
+            visible: state.button.length > 0
+            topInset: 2
+            topPadding: topInset
+            implicitHeight: faceHeight + topInset
+            text: state.button
+            onClicked: state.activated()
+        }
+    }
+}

@@ -1,0 +1,52 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Velmora
+
+/// The sheets that can cover the window, at most one at a time, and the alert over them.
+Item {
+    id: host
+
+    required property Presentation presentation
+    required property int titleBottom
+
+    readonly property MainWindowModel window: presentation.window
+
+    component HostedSheet: SheetPopup {
+        animated: host.presentation.animated
+        titleBottom: host.titleBottom
+    }
+
+    HostedSheet {
+        shown: host.window.sheet === MainWindowModel.Sheet.terms
+        sheet: TermsSheet {
+            firstRun: host.presentation.firstRun
+        }
+    }
+    HostedSheet {
+        shown: host.window.sheet === MainWindowModel.Sheet.confirm
+        sheet: ConfirmSendSheet {
+            model: host.presentation.confirm
+        }
+    }
+    HostedSheet {
+        shown: host.window.sheet === MainWindowModel.Sheet.fullDiskAccess
+        sheet: FullDiskAccessHelpSheet {
+            firstRun: host.presentation.firstRun
+        }
+    }
+    HostedSheet {
+        shown: host.window.sheet === MainWindowModel.Sheet.senderSetup
+        sheet: SenderSetupSheet {
+            firstRun: host.presentation.firstRun
+        }
+    }
+    HostedSheet {
+        z: 1
+        shown: host.window.alertShown
+        sheet: AlertBox {
+            title: "Velmora"
+            message: host.window.alertText
+            onDismissed: host.window.dismissAlert()
+        }
+    }
+}

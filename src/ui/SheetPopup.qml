@@ -1,0 +1,72 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+import Velmora
+
+/// One sheet over the window: it comes from under the title, dims the rest and keeps the pointer,
+/// the keyboard and the shortcuts to itself. Only its own buttons and keys let it go.
+T.Popup {
+    id: popup
+
+    required property bool shown
+    required property bool animated
+    required property int titleBottom
+    required property Component sheet
+
+    property real hidden: 0
+
+    readonly property int duration: animated ? 220 : 0
+
+    parent: T.Overlay.overlay
+    x: Math.round((parent.width - width) / 2)
+    y: Math.max(0, Math.min(titleBottom, parent.height - height))
+    width: implicitWidth
+    height: Math.min(implicitHeight, parent.height)
+    implicitWidth: contentItem.implicitWidth
+    implicitHeight: contentItem.implicitHeight
+    padding: 0
+    modal: true
+    focus: true
+    closePolicy: T.Popup.NoAutoClose
+    visible: shown
+
+    T.Overlay.modal: Rectangle {
+        color: Theme.sheetDim
+    }
+
+    enter: Transition {
+        NumberAnimation {
+            property: "hidden"
+            from: 1
+            to: 0
+            duration: popup.duration
+            easing.type: Easing.OutCubic
+        }
+    }
+    exit: Transition {
+        NumberAnimation {
+            property: "hidden"
+            from: 0
+            to: 1
+            duration: popup.duration
+            easing.type: Easing.InCubic
+        }
+    }
+
+    contentItem: FocusScope {
+        implicitWidth: loader.implicitWidth
+        implicitHeight: loader.implicitHeight
+        focus: true
+        clip: popup.hidden > 0
+
+        Loader {
+            id: loader
+            width: parent.width
+            height: parent.height
+            y: -popup.hidden * height
+            active: popup.visible
+            focus: true
+            sourceComponent: popup.sheet
+        }
+    }
+}

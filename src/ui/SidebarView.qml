@@ -1,0 +1,62 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Velmora
+
+/// The lists to choose from.
+Rectangle {
+    id: sidebar
+
+    required property SidebarModel model
+
+    readonly property int lastRow: list.count - 1
+
+    color: Theme.sidebarBackground
+
+    ListView {
+        id: list
+        anchors.fill: parent
+        anchors.topMargin: 10
+        model: sidebar.model
+        currentIndex: sidebar.model.currentRow
+        highlightFollowsCurrentItem: false
+        enabled: sidebar.model.enabled
+        opacity: enabled ? 1 : 0.45
+        activeFocusOnTab: true
+        keyNavigationEnabled: false
+        boundsBehavior: Flickable.StopAtBounds
+        reuseItems: true
+        clip: true
+        onCurrentIndexChanged: positionViewAtIndex(currentIndex, ListView.Contain)
+        Accessible.role: Accessible.List
+        Accessible.name: "Lists"
+        Keys.onUpPressed: sidebar.model.choose(Math.max(0, sidebar.model.currentRow - 1))
+        Keys.onDownPressed: sidebar.model.choose(Math.min(sidebar.lastRow,
+                                                          sidebar.model.currentRow + 1))
+        Keys.onPressed: event => {
+            event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
+            if (event.accepted)
+                sidebar.model.choose(event.key === Qt.Key_Home ? 0 : sidebar.lastRow);
+        }
+
+        header: BodyText {
+            x: 18
+            height: 24
+            verticalAlignment: Text.AlignVCenter
+            text: "Lists"
+            color: Theme.secondary
+            font.pixelSize: Theme.caption
+            font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
+        }
+        delegate: SidebarRow {
+            width: list.width
+            current: index === sidebar.model.currentRow
+            focused: list.activeFocus
+            onPicked: {
+                list.forceActiveFocus(Qt.MouseFocusReason);
+                sidebar.model.choose(index);
+            }
+            onCleared: sidebar.model.choose(-1)
+        }
+    }
+}

@@ -1,0 +1,39 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Velmora
+
+/// The menu bar in the window, where the desktop has none of its own. While a menu is open, the
+/// pointer or the arrow keys go on to its neighbours.
+Rectangle {
+    id: bar
+
+    required property MenuCommands commands
+
+    property int opened: -1
+
+    implicitHeight: 28
+    color: Theme.windowBackground
+    Accessible.role: Accessible.MenuBar
+
+    Row {
+        x: 6
+        height: parent.height - 1
+
+        Repeater {
+            id: titles
+            model: bar.commands.menus
+
+            MenuTitle {
+                height: bar.height - 1
+                opened: bar.opened
+                commands: bar.commands
+                onWanted: place => bar.opened = (place + titles.count) % titles.count
+                onLeft: if (bar.opened === index) bar.opened = -1
+            }
+        }
+    }
+    HorizontalDivider {
+        anchors.bottom: parent.bottom
+        width: parent.width
+    }
+}
