@@ -148,8 +148,8 @@ std::optional<json> parsed(const QByteArray& text) {
 
 }  // namespace
 
-std::optional<AppConfig> decodeConfig(const QByteArray& text) {
-    const std::optional<json> object = parsed(text);
+std::optional<AppConfig> decodeConfig(const QByteArray& json) {
+    const auto object = parsed(json);
     AppConfig config;
     const auto readField = [&](const char* key, auto& field) {
         const auto found = object->find(key);

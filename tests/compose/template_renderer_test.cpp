@@ -1,0 +1,64 @@
+#include "compose/template_renderer.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace velmora::TemplateRenderer;
+
+// A wrong idea of what separates would send a person two versions, or a version cut in half.
+TEST(SplitVersions, OnlyThreeHyphensBetweenSpacesAndTabsSeparate) {
+    EXPECT_EQ(splitVersions(u"A\n---\nB"_s), (QStringList{u"A"_s, u"B"_s}));
+    EXPECT_EQ(splitVersions(u"A\n\t---\u00a0 \nB"_s), (QStringList{u"A"_s, u"B"_s}));
+    for (const QString& line :
+         {u"----"_s, u"- - -"_s, u"--- x"_s, u"---\r"_s, u"---\u2028"_s, u"\u200b---"_s})
+        EXPECT_EQ(splitVersions(u"A\n"_s + line + u"\nB"_s).size(), 1) << line.toStdString();
+}
+
+// An empty version would send an empty text.
+TEST(SplitVersions, EmptyVersionsVanishAndOthersAreTrimmed) {
+    for (const QString& text : {u""_s, u" \t\r\n\u0085\u2028\u3000"_s, u"---"_s, u"---\n---\n"_s})
+        EXPECT_TRUE(splitVersions(text).isEmpty());
+    EXPECT_EQ(splitVersions(u"---\n\n A\n\n b \r\n---\n---\nB\n---"_s),
+              (QStringList{u"A\n\n b"_s, u"B"_s}));
+    EXPECT_EQ(splitVersions(u"\u200bA"_s), QStringList{u"\u200bA"_s});
+    EXPECT_EQ(splitVersions(defaultTemplate()).size(), 2);
+}
+
+// Another hash would give people another version after an update.
+TEST(VersionIndex, IsTheKnownHashOfThePhone) {
+    const quint64 whole = 0xffffffffffffffff;
+    EXPECT_EQ(versionIndex(u"+15551234567"_s, whole), 0x5c7b129949cbd436);
+    EXPECT_EQ(versionIndex(u"+15551234568"_s, whole), 0x5c7b1d9949cbe6e7);
+    EXPECT_EQ(versionIndex(u""_s, whole), 0xcbf29ce484222325);
+    EXPECT_EQ(versionIndex(u"a"_s, whole), 0xaf63dc4c8601ec8c);
+    EXPECT_EQ(versionIndex(u"+15551234567"_s, 2), 0U);
+    EXPECT_EQ(versionIndex(u"+15551234568"_s, 2), 1U);
+    EXPECT_EQ(versionIndex(u"+15551234567"_s, 3), 1U);
+    EXPECT_EQ(versionIndex(u"+15551234567"_s, 1), 0U);
+    // Two bytes in UTF-8, both above 127: (((basis ^ c3) * prime) ^ a9) * prime.
+    const quint64 prime = 0x100000001b3;
+    const quint64 expected = ((((0xcbf29ce484222325 ^ 0xc3) * prime) ^ 0xa9) * prime) % whole;
+    EXPECT_EQ(versionIndex(u"\u00e9"_s, whole), expected);
+}
+
+// A stray or missing space, or a placeholder left over, would be seen by everyone.
+TEST(RenderText, PutsInNameAndNote) {
+    const QString ending = u"Want in?{custom_note}"_s;
+    EXPECT_EQ(renderText(ending, {}, u" \nthanks for last week \r\n"_s),
+              u"Want in? thanks for last week"_s);
+    EXPECT_EQ(renderText(ending, {}, u" \t "_s), u"Want in?"_s);
+    EXPECT_EQ(renderText(u"a {custom_note} b"_s, {}, {}), u"a  b"_s);
+    EXPECT_EQ(renderText(u"Hey {first_name}, {first_name}"_s, {}, {}), u"Hey ,"_s);
+    EXPECT_EQ(renderText(u"{first_name}!"_s, u" Ann "_s, {}), u"Ann !"_s);
+    EXPECT_EQ(renderText(u"{First_name} { first_name}"_s, u"Ann"_s, {}),
+              u"{First_name} { first_name}"_s);
+    EXPECT_EQ(renderText(u"{first_name}"_s, u"{custom_note}"_s, u"x {first_name}"_s),
+              u"x {first_name}"_s);
+}
+
+TEST(IsPersonalised, WhenTextsMayDiffer) {
+    EXPECT_TRUE(isPersonalised(u"{first_name}"_s));
+    EXPECT_TRUE(isPersonalised(u"{custom_note}"_s));
+    EXPECT_TRUE(isPersonalised(u"A\n---\nB"_s));
+    EXPECT_FALSE(isPersonalised(u"A {name}\n---\n"_s));
+}
