@@ -1,0 +1,55 @@
+#include "ui/confirm_model.h"
+
+#include "core/phone.h"
+#include "ui/run_display.h"
+
+namespace velmora {
+
+ConfirmModel::ConfirmModel(AppModel& model) : model_(model) {
+    connect(&model_, &AppModel::configChanged, this, &ConfirmModel::changed);
+    connect(&model_, &AppModel::selectionChanged, this, &ConfirmModel::changed);
+    connect(&model_, &AppModel::recipientsReplaced, this, &ConfirmModel::changed);
+    connect(&model_, &AppModel::recipientTextChanged, this, &ConfirmModel::changed);
+    connect(&model_, &AppModel::recipientTextsChanged, this, &ConfirmModel::changed);
+    connect(&model_, &AppModel::batchNameChanged, this, &ConfirmModel::runNameChanged);
+}
+
+QString ConfirmModel::title() const {
+    return confirmTitle(model_.selection().size());
+}
+
+QString ConfirmModel::exampleCaption() const {
+    const auto example = model_.exampleRecipient();
+    return example ? QStringLiteral("Example for ") + example->name : QString();
+}
+
+QString ConfirmModel::exampleText() const {
+    const auto example = model_.exampleRecipient();
+    return example ? example->text : QString();
+}
+
+QString ConfirmModel::from() const {
+    return displayPhone(model_.config().senderNumber);
+}
+
+QString ConfirmModel::pace() const {
+    return paceLine(model_.config());
+}
+
+QString ConfirmModel::runName() const {
+    return model_.batchName;
+}
+
+void ConfirmModel::setRunName(const QString& name) {
+    model_.batchName = name;
+}
+
+void ConfirmModel::cancel() {
+    model_.confirmingRun = false;
+}
+
+void ConfirmModel::startSending() {
+    model_.confirmRun();
+}
+
+}  // namespace velmora

@@ -1,0 +1,136 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QHash>
+#include <QSet>
+#include <QtQmlIntegration>
+#include <vector>
+
+#include "app/app_model.h"
+
+namespace velmora {
+
+/// The rows of the recipient list, those who can be texted first, and what stands around them:
+/// search, filter and the empty states. It keeps which rows the view knows, so that each change
+/// touches only the rows and roles that it changes.
+class RecipientsModel final : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Belongs to the presentation")
+    Q_PROPERTY(bool enabled READ enabled NOTIFY enabledChanged)
+    Q_PROPERTY(bool selectedOnly READ selectedOnly NOTIFY filterChanged)
+    Q_PROPERTY(QString searchText READ searchText NOTIFY filterChanged)
+    Q_PROPERTY(QString selectTitle READ selectTitle NOTIFY filterChanged)
+    Q_PROPERTY(QString clearTitle READ clearTitle NOTIFY filterChanged)
+    Q_PROPERTY(bool showsPeople READ showsPeople NOTIFY contentChanged)
+    Q_PROPERTY(QString emptyIcon READ emptyIcon NOTIFY contentChanged)
+    Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY contentChanged)
+    Q_PROPERTY(QString emptyMessage READ emptyMessage NOTIFY contentChanged)
+    Q_PROPERTY(QString blockedHeading READ blockedHeading NOTIFY contentChanged)
+    Q_PROPERTY(int topRow READ topRow WRITE setTopRow NOTIFY topRowChanged)
+
+  public:
+    /// What a row shows. Colours are names of the theme's colours; what is empty is not shown.
+    enum Role {
+        nameRole = Qt::UserRole,  ///< `name`
+        companyRole,              ///< `company`
+        sentTextRole,             ///< `sentText`: "Sent" under the current run name
+        issueTextRole,            ///< `issueText`
+        issueTextColorRole,       ///< `issueTextColor`
+        issueSymbolRole,          ///< `issueSymbol`
+        issueSymbolColorRole,     ///< `issueSymbolColor`
+        previewRole,              ///< `preview`: the text they will receive
+        noteRole,                 ///< `note`: their personal note
+        showsNoteRole,            ///< `showsNote`: whether the note's field shows
+        offersNoteRole,           ///< `offersNote`: whether "Add note" shows
+        phoneRole,                ///< `phone`
+        phoneLabelRole,           ///< `phoneLabel`
+        threadTextRole,           ///< `threadText`
+        threadTextColorRole,      ///< `threadTextColor`
+        threadSymbolRole,         ///< `threadSymbol`
+        threadSymbolColorRole,    ///< `threadSymbolColor`
+        checkedRole,              ///< `checked`
+        checkableRole,            ///< `checkable`: whether the check box can be used
+        checkNameRole,            ///< `checkName`: the check box in words
+        rowOpacityRole,           ///< `rowOpacity`
+        spokenRole,               ///< `spoken`: the row in words
+        sectionRole               ///< `section`: "blocked" for those who can't be texted, or empty
+    };
+
+    explicit RecipientsModel(AppModel& model);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    /// False during a run, which keeps its people.
+    [[nodiscard]] bool enabled() const;
+    [[nodiscard]] bool selectedOnly() const;
+    [[nodiscard]] QString searchText() const;
+    /// The two buttons' titles, which tell whether they mean everyone or who is shown.
+    [[nodiscard]] QString selectTitle() const;
+    [[nodiscard]] QString clearTitle() const;
+
+    /// Whether there are rows to show; else the empty state below.
+    [[nodiscard]] bool showsPeople() const;
+    [[nodiscard]] QString emptyIcon() const;
+    [[nodiscard]] QString emptyTitle() const;
+    [[nodiscard]] QString emptyMessage() const;
+    /// Heads the rows of those who can't be texted, with their number.
+    [[nodiscard]] QString blockedHeading() const;
+
+    /// The view's uppermost row, told by the view: when nearly everything changes, the rows around
+    /// it stay. -1 when there is none.
+    [[nodiscard]] int topRow() const { return topRow_; }
+    void setTopRow(int row);
+
+    Q_INVOKABLE void search(const QString& text);
+    Q_INVOKABLE void showSelectedOnly(bool only);
+    Q_INVOKABLE void selectShown();
+    Q_INVOKABLE void clearShown();
+
+    /// Checks or unchecks the person at `row`, where that can be done.
+    Q_INVOKABLE void setChecked(int row, bool checked);
+    Q_INVOKABLE void toggle(int row);
+    /// Keeps the note's field of `row` open, whatever is typed.
+    Q_INVOKABLE void editNote(int row);
+    Q_INVOKABLE void setNote(int row, const QString& note);
+
+  Q_SIGNALS:
+    void enabledChanged();
+    void filterChanged();
+    void contentChanged();
+    void topRowChanged();
+
+  private:
+    [[nodiscard]] const Recipient* recipientAt(int row) const;
+    [[nodiscard]] QVariant noteData(const Recipient& recipient, int role) const;
+    [[nodiscard]] QVariant stateData(const Recipient& recipient, int role) const;
+    [[nodiscard]] bool isChecked(const Recipient& recipient) const;
+    [[nodiscard]] bool isCheckable(const Recipient& recipient) const;
+    [[nodiscard]] bool isFiltered() const;
+    [[nodiscard]] std::vector<QString> visibleKeys() const;
+
+    void followRecipients();
+    void followRows();
+    void followFilter();
+    void followSelection();
+    void followConfig();
+    void followRun();
+    void followEditing();
+    void announce(int first, int last, const QList<int>& roles);
+    void announceAll(const QList<int>& roles) { announce(0, rowCount() - 1, roles); }
+
+    AppModel& model_;
+    QHash<QString, qsizetype> indexes_;  // into the model's recipients, by key
+    std::vector<QString> rows_;          // the keys of the rows that the view knows
+    int topRow_ = -1;
+
+    // What the rows were last told.
+    QSet<QString> selection_;
+    QString senderNumber_;
+    std::optional<QString> editingNoteID_;
+    bool enabled_ = true;
+};
+
+}  // namespace velmora

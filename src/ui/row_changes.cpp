@@ -1,0 +1,72 @@
+#include "ui/row_changes.h"
+
+#include <QHash>
+#include <algorithm>
+#include <ranges>
+
+namespace velmora {
+
+namespace {
+
+constexpr qsizetype mostSteps = 200;
+constexpr qsizetype keptAround = 40;  // more than a window shows
+
+// Which rows stay, in each of the two lists.
+struct Staying {
+    std::vector<bool> before;
+    std::vector<bool> after;
+};
+
+Staying findStaying(const std::vector<QString>& before, const std::vector<QString>& after,
+                    qsizetype from, qsizetype to) {
+    QHash<QStringView, qsizetype> places;
+    places.reserve(std::ssize(after));
+    for (qsizetype place = 0; place < std::ssize(after); ++place)
+        places.insert(after[static_cast<size_t>(place)], place);
+
+    Staying staying{std::vector<bool>(before.size()), std::vector<bool>(after.size())};
+    qsizetype last = -1;
+    for (qsizetype row = from; row < to; ++row) {
+        const qsizetype place = places.value(before[static_cast<size_t>(row)], -1);
+        if (place <= last)
+            continue;
+        staying.before[static_cast<size_t>(row)] = true;
+        staying.after[static_cast<size_t>(place)] = true;
+        last = place;
+    }
+    return staying;
+}
+
+std::vector<RowChange> runs(const std::vector<bool>& staying, RowChange::Kind kind) {
+    std::vector<RowChange> found;
+    for (qsizetype row = 0; row < std::ssize(staying); ++row) {
+        if (staying[static_cast<size_t>(row)])
+            continue;
+        if (found.empty() || found.back().first + found.back().count != row)
+            found.push_back({.kind = kind, .first = row, .count = 0});
+        ++found.back().count;
+    }
+    return found;
+}
+
+std::vector<RowChange> stepsOf(const Staying& staying) {
+    std::vector<RowChange> steps = runs(staying.before, RowChange::Kind::remove);
+    std::ranges::reverse(steps);
+    std::ranges::copy(runs(staying.after, RowChange::Kind::insert), std::back_inserter(steps));
+    return steps;
+}
+
+}  // namespace
+
+std::vector<RowChange> rowChanges(const std::vector<QString>& before,
+                                  const std::vector<QString>& after, qsizetype kept) {
+    if (before == after)
+        return {};
+    std::vector<RowChange> steps = stepsOf(findStaying(before, after, 0, std::ssize(before)));
+    if (std::ssize(steps) <= mostSteps)
+        return steps;
+    return stepsOf(findStaying(before, after, std::max<qsizetype>(kept - keptAround, 0),
+                               std::min<qsizetype>(kept + keptAround, std::ssize(before))));
+}
+
+}  // namespace velmora
