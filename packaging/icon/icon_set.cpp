@@ -1,0 +1,42 @@
+// Draws the application's icon at every size that a Mac's icon set holds: icon_set <folder>.
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <array>
+#include <cstdio>
+
+namespace {
+
+QImage drawn(int pixels) {
+    // Small sizes have a drawing of their own, without the lines that would blur.
+    QSvgRenderer renderer(pixels <= 32 ? QStringLiteral(":/velmora/icon/velmora-small.svg")
+                                       : QStringLiteral(":/velmora/icon/velmora.svg"));
+    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    renderer.render(&painter);
+    return image;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const QGuiApplication application(argc, argv);
+    const QStringList arguments = QGuiApplication::arguments();
+    if (arguments.size() != 2 || !QDir().mkpath(arguments[1])) {
+        std::fputs("Name a folder that the icons can be written to.\n", stderr);
+        return 2;
+    }
+    for (const int points : std::array{16, 32, 128, 256, 512}) {
+        const QString name = arguments[1] + QStringLiteral("/icon_%1x%1").arg(points);
+        if (!drawn(points).save(name + QStringLiteral(".png")) ||
+            !drawn(points * 2).save(name + QStringLiteral("@2x.png"))) {
+            std::fprintf(stderr, "%s could not be written.\n", qPrintable(name));
+            return 1;
+        }
+    }
+    return 0;
+}

@@ -1,0 +1,73 @@
+// Just the declarations of the platform's AppKit and Core Graphics that src/platform/mac uses, written
+// from its public documentation.
+
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+typedef double CGFloat;
+typedef struct CGSize {
+    CGFloat width;
+    CGFloat height;
+} NSSize;
+typedef struct CGRect {
+    struct {
+        CGFloat x;
+        CGFloat y;
+    } origin;
+    NSSize size;
+} NSRect;
+NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat width, CGFloat height);
+extern const NSRect NSZeroRect;
+
+typedef struct CGColorSpace *CGColorSpaceRef;
+typedef struct CGContext *CGContextRef;
+enum : uint32_t { kCGImageAlphaPremultipliedFirst = 2 };
+enum : uint32_t { kCGBitmapByteOrder32Host = 2 << 12 };
+CGColorSpaceRef CGColorSpaceCreateDeviceRGB(void);
+void CGColorSpaceRelease(CGColorSpaceRef space);
+CGContextRef CGBitmapContextCreate(void *data, size_t width, size_t height, size_t bitsPerComponent,
+                                   size_t bytesPerRow, CGColorSpaceRef space, uint32_t bitmapInfo);
+void CGContextRelease(CGContextRef context);
+
+@interface NSWorkspaceOpenConfiguration : NSObject
++ (instancetype)configuration;
+@end
+
+@class NSRunningApplication;
+
+@interface NSWorkspace : NSObject
+@property(class, readonly) NSWorkspace *sharedWorkspace;
+- (BOOL)openURL:(NSURL *)url;
+- (NSURL *)URLForApplicationWithBundleIdentifier:(NSString *)identifier;
+- (void)openApplicationAtURL:(NSURL *)url
+               configuration:(NSWorkspaceOpenConfiguration *)configuration
+           completionHandler:(void (^)(NSRunningApplication *application, NSError *error))handler;
+@end
+
+typedef CGFloat NSFontWeight;
+extern const NSFontWeight NSFontWeightLight;
+extern const NSFontWeight NSFontWeightRegular;
+
+@interface NSImageSymbolConfiguration : NSObject
++ (instancetype)configurationWithPointSize:(CGFloat)size weight:(NSFontWeight)weight;
+@end
+
+typedef NSUInteger NSCompositingOperation;
+enum : NSUInteger { NSCompositingOperationSourceOver = 2 };
+
+@interface NSImage : NSObject
++ (instancetype)imageWithSystemSymbolName:(NSString *)name
+                 accessibilityDescription:(NSString *)description;
+- (NSImage *)imageWithSymbolConfiguration:(NSImageSymbolConfiguration *)configuration;
+@property NSSize size;
+- (void)drawInRect:(NSRect)target
+          fromRect:(NSRect)source
+         operation:(NSCompositingOperation)operation
+          fraction:(CGFloat)fraction;
+@end
+
+@interface NSGraphicsContext : NSObject
+@property(class) NSGraphicsContext *currentContext;
++ (NSGraphicsContext *)graphicsContextWithCGContext:(CGContextRef)context flipped:(BOOL)flipped;
+@end

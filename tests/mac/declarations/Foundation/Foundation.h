@@ -1,0 +1,119 @@
+// Just the declarations of the platform's Foundation and Core Foundation that src/platform/mac uses,
+// written from its public documentation, so that a compiler without the platform can check our files:
+// a selector, type or constant that is misspelt there is not found here.
+
+#pragma once
+
+#include <stddef.h>
+#include <stdint.h>
+
+#define nil nullptr
+#define YES __objc_yes
+#define NO __objc_no
+typedef bool BOOL;
+typedef long NSInteger;
+typedef unsigned long NSUInteger;
+typedef unsigned short unichar;
+
+typedef struct NSRange {
+    NSUInteger location;
+    NSUInteger length;
+} NSRange;
+NSRange NSMakeRange(NSUInteger location, NSUInteger length);
+
+@protocol NSObject
+- (BOOL)isKindOfClass:(Class)type;
+@end
+
+__attribute__((objc_root_class))
+@interface NSObject <NSObject>
++ (instancetype)alloc;
++ (Class)class;
+- (instancetype)init;
+@end
+
+typedef struct {
+    unsigned long state;
+    id __unsafe_unretained *itemsPtr;
+    unsigned long *mutationsPtr;
+    unsigned long extra[5];
+} NSFastEnumerationState;
+
+@protocol NSFastEnumeration
+- (NSUInteger)countByEnumeratingWithState:(NSFastEnumerationState *)state
+                                  objects:(id __unsafe_unretained[])buffer
+                                    count:(NSUInteger)length;
+@end
+
+@protocol NSCopying
+@end
+
+@interface NSString : NSObject <NSCopying>
++ (instancetype)stringWithCharacters:(const unichar *)characters length:(NSUInteger)length;
+@property(readonly) NSUInteger length;
+- (void)getCharacters:(unichar *)buffer range:(NSRange)range;
+@end
+
+@interface NSConstantString : NSString
+@end
+
+@interface NSArray<ObjectType> : NSObject <NSFastEnumeration>
++ (instancetype)arrayWithObjects:(const ObjectType[])objects count:(NSUInteger)count;
+@property(readonly) ObjectType firstObject;
+@end
+
+@interface NSDictionary<KeyType, ObjectType> : NSObject <NSFastEnumeration>
+- (ObjectType)objectForKey:(KeyType)key;
+@end
+
+@interface NSError : NSObject
+@property(readonly) NSString *localizedDescription;
+@end
+
+@interface NSURL : NSObject
++ (instancetype)URLWithString:(NSString *)text;
+@property(readonly) NSString *path;
+@end
+
+typedef NSUInteger NSSearchPathDirectory;
+enum : NSUInteger { NSApplicationSupportDirectory = 14 };
+typedef NSUInteger NSSearchPathDomainMask;
+enum : NSUInteger { NSUserDomainMask = 1 };
+NSString *NSHomeDirectory(void);
+
+@interface NSFileManager : NSObject
+@property(class, readonly) NSFileManager *defaultManager;
+- (NSArray<NSURL *> *)URLsForDirectory:(NSSearchPathDirectory)directory
+                             inDomains:(NSSearchPathDomainMask)domains;
+@end
+
+typedef uint64_t NSActivityOptions;
+// User-initiated work that also keeps the system from idle sleep: 0x00FFFFFF.
+enum : uint64_t { NSActivityUserInitiated = 0x00FFFFFFULL };
+
+@interface NSProcessInfo : NSObject
+@property(class, readonly) NSProcessInfo *processInfo;
+- (id<NSObject>)beginActivityWithOptions:(NSActivityOptions)options reason:(NSString *)reason;
+- (void)endActivity:(id<NSObject>)activity;
+@end
+
+@class NSAppleEventDescriptor;
+extern NSString *const NSAppleScriptErrorMessage;
+
+@interface NSAppleScript : NSObject
+- (instancetype)initWithSource:(NSString *)source;
+- (NSAppleEventDescriptor *)executeAndReturnError:(NSDictionary<NSString *, id> **)error;
+@end
+
+typedef const void *CFTypeRef;
+typedef CFTypeRef CFPropertyListRef;
+typedef const struct __attribute__((objc_bridge(NSString))) __CFString *CFStringRef;
+#define CFSTR(text) ((__bridge CFStringRef) @text)
+CFPropertyListRef CFPreferencesCopyAppValue(CFStringRef key, CFStringRef application);
+static inline id CFBridgingRelease(CFTypeRef __attribute__((cf_consumed)) value) {
+    return (__bridge_transfer id)value;
+}
+
+typedef NSObject *dispatch_queue_t;
+dispatch_queue_t dispatch_get_main_queue(void);
+void dispatch_async(dispatch_queue_t queue, void (^block)(void));

@@ -1,0 +1,121 @@
+// What a Mac's bundle is made of, checked where there is no Mac.
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString sourceRoot = QStringLiteral(VELMORA_SOURCE_ROOT);
+
+struct Outcome {
+    int code;
+    QString output;
+    QString errors;
+};
+
+Outcome run(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments);
+    EXPECT_TRUE(process.waitForFinished()) << qPrintable(process.errorString());
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError()).trimmed()};
+}
+
+Outcome package(const QStringList& arguments) {
+    return run(sourceRoot + u"/packaging/macos/package"_s, arguments);
+}
+
+// Catches a step that moved: nothing may change after it is sealed, and the ticket comes last.
+TEST(Package, ADryRunSignsInsideOutThenNotarisesThenStaples) {
+    const Outcome dry = package({u"--identity"_s, u"Developer ID Application: Ann Lee (TEAM)"_s,
+                                 u"--profile"_s, u"velmora"_s, u"--dry-run"_s});
+    ASSERT_EQ(dry.code, 0) << qPrintable(dry.errors);
+    const QStringList order = {u"ditto build/release/src/Velmora.app"_s,
+                               u"macdeployqt build/package/Velmora.app -qmldir=src/ui"_s,
+                               u"Contents/Frameworks"_s,
+                               u"--entitlements packaging/macos/Velmora.entitlements"_s,
+                               u"codesign --verify --deep --strict"_s,
+                               u"hdiutil create"_s,
+                               u"Velmora.dmg"_s,
+                               u"notarytool submit build/Velmora.dmg --keychain-profile velmora"_s,
+                               u"stapler staple build/Velmora.dmg"_s,
+                               u"spctl --assess"_s};
+    qsizetype place = 0;
+    for (const QString& step : order) {
+        const qsizetype found = dry.output.indexOf(step, place);
+        ASSERT_GE(found, place) << qPrintable(step) << " is missing or out of order in\n"
+                                << qPrintable(dry.output);
+        place = found;
+    }
+    EXPECT_EQ(dry.output.count(u"--entitlements"_s), 1) << "only the application gets them";
+    EXPECT_FALSE(QFile::exists(sourceRoot + u"/build/package"_s)) << "a dry run changed something";
+}
+
+TEST(Package, WhatIsMissingIsNamedInOneSentence) {
+    EXPECT_EQ(package({}).errors, u"Name the signing certificate with --identity."_s);
+    EXPECT_EQ(package({u"--identity"_s, u"X"_s}).errors,
+              u"Name notarytool's keychain profile with --profile."_s);
+    EXPECT_EQ(package({u"--profile"_s}).errors, u"The argument --profile needs a value."_s);
+    const Outcome noTools = package({u"--identity"_s, u"X"_s, u"--profile"_s, u"Y"_s});
+    EXPECT_EQ(noTools.code, 1);
+    EXPECT_TRUE(noTools.errors.startsWith(u"The tool "_s)) << qPrintable(noTools.errors);
+}
+
+// The keys and values of a property list's dictionary, a value as its text or its element's name.
+QMap<QString, QString> propertyList(const QString& path) {
+    QFile file(sourceRoot + path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
+    QXmlStreamReader xml(&file);
+    QMap<QString, QString> found;
+    QString key;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const QString element = xml.name().toString();
+        if (element == u"key")
+            key = xml.readElementText();
+        else if (element == u"string")
+            found.insert(key, xml.readElementText());
+        else if (element == u"true" || element == u"false")
+            found.insert(key, element);
+    }
+    EXPECT_FALSE(xml.hasError()) << qPrintable(path + u": "_s + xml.errorString());
+    return found;
+}
+
+// Catches a bundle that the system would kill at its first question to Contacts or to Messages.
+TEST(Bundle, AsksForWhatItUsesAndSaysWhy) {
+    const auto info = propertyList(u"/packaging/macos/Info.plist.in"_s);
+    EXPECT_TRUE(info.value(u"NSContactsUsageDescription"_s).endsWith(u'.'));
+    EXPECT_TRUE(info.value(u"NSAppleEventsUsageDescription"_s).contains(u"Messages"));
+    EXPECT_EQ(info.value(u"CFBundleShortVersionString"_s),
+              u"${MACOSX_BUNDLE_SHORT_VERSION_STRING}");
+    const auto rights = propertyList(u"/packaging/macos/Velmora.entitlements"_s);
+    EXPECT_EQ(rights.keys(),
+              (QStringList{u"com.apple.security.automation.apple-events"_s,
+                           u"com.apple.security.personal-information.addressbook"_s}));
+}
+
+TEST(Icon, EverySizeOfTheSetIsDrawn) {
+    const QTemporaryDir folder;
+    const Outcome drawn = run(QStringLiteral(VELMORA_ICON_SET), {folder.path()});
+    ASSERT_EQ(drawn.code, 0) << qPrintable(drawn.errors);
+    for (const int points : {16, 32, 128, 256, 512}) {
+        for (const int scale : {1, 2}) {
+            const QImage image(folder.filePath(
+                u"icon_%1x%1%2.png"_s.arg(points).arg(scale == 2 ? u"@2x"_s : QString())));
+            EXPECT_EQ(image.width(), points * scale);
+            EXPECT_GT(image.pixelColor(image.rect().center()).alpha(), 200);
+            EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0) << "the corners are not rounded";
+        }
+    }
+}
+
+}  // namespace
