@@ -133,14 +133,13 @@ void AppModel::clearShown() {
 }
 
 void AppModel::setNote(const QString& id, const QString& note) {
-    const QString person = id;
     editConfig([&](AppConfig& config) {
         if (note.isEmpty())
-            config.notes.remove(person);
+            config.notes.remove(id);
         else
-            config.notes.insert(person, note);
+            config.notes.insert(id, note);
     });
-    refreshText(person);
+    refreshText(id);
 }
 
 }  // namespace velmora
