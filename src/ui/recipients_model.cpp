@@ -73,6 +73,7 @@ void RecipientsModel::followRows() {
             endInsertRows();
         }
     }
+    ++revision_;
     Q_EMIT contentChanged();
 }
 

@@ -27,6 +27,7 @@ class RecipientsModel final : public QAbstractListModel {
     Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY contentChanged)
     Q_PROPERTY(QString emptyMessage READ emptyMessage NOTIFY contentChanged)
     Q_PROPERTY(QString blockedHeading READ blockedHeading NOTIFY contentChanged)
+    Q_PROPERTY(int revision READ revision NOTIFY contentChanged)
     Q_PROPERTY(int topRow READ topRow WRITE setTopRow NOTIFY topRowChanged)
 
   public:
@@ -79,6 +80,9 @@ class RecipientsModel final : public QAbstractListModel {
     /// Heads the rows of those who can't be texted, with their number.
     [[nodiscard]] QString blockedHeading() const;
 
+    /// Another number each time when other people may be shown.
+    [[nodiscard]] int revision() const { return revision_; }
+
     /// The view's uppermost row, told by the view: when nearly everything changes, the rows around
     /// it stay. -1 when there is none.
     [[nodiscard]] int topRow() const { return topRow_; }
@@ -124,6 +128,7 @@ class RecipientsModel final : public QAbstractListModel {
     AppModel& model_;
     QHash<QString, qsizetype> indexes_;  // into the model's recipients, by key
     std::vector<QString> rows_;          // the keys of the rows that the view knows
+    int revision_ = 0;
     int topRow_ = -1;
 
     // What the rows were last told.

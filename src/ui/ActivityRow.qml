@@ -1,0 +1,63 @@
+import QtQuick
+import Velmora
+
+/// One line of the log: what became of the text, for whom, and when.
+Item {
+    id: row
+
+    required property int index
+    required property string name
+    required property string symbol
+    required property string symbolColor
+    required property string details
+    required property string clockTime
+
+    implicitHeight: words.height + 12
+    Accessible.role: Accessible.ListItem
+    Accessible.name: name + ", " + details + ", " + clockTime
+
+    MouseArea {
+        anchors.fill: parent
+        preventStealing: true
+    }
+    HorizontalDivider {
+        x: words.x
+        width: row.width - x - 10
+        visible: row.index > 0
+    }
+    SymbolIcon {
+        id: icon
+        x: 10
+        y: 6
+        name: row.symbol
+        size: 15
+        color: Theme[row.symbolColor]
+    }
+    Column {
+        id: words
+        anchors.verticalCenter: parent.verticalCenter
+        x: icon.x + icon.width + 8
+        width: time.x - x - 8
+        spacing: 2
+
+        BodyText {
+            width: parent.width
+            text: row.name
+        }
+        BodyText {
+            width: parent.width
+            visible: text.length > 0
+            text: row.details
+            color: Theme.secondary
+            font.pixelSize: Theme.caption
+        }
+    }
+    FixedDigitsText {
+        id: time
+        x: row.width - width - 10
+        y: 7
+        text: row.clockTime
+        color: Theme.secondary
+        pixelSize: Theme.caption
+    }
+}

@@ -1,0 +1,55 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Velmora
+
+/// The log of the run, the newest text first.
+ColumnLayout {
+    id: view
+
+    required property ActivityModel model
+
+    implicitHeight: 120 + heading.implicitHeight + spacing
+    spacing: 8
+
+    BodyText {
+        id: heading
+        text: "Activity"
+        font.pixelSize: Theme.headline
+        font.weight: Font.DemiBold
+        Accessible.role: Accessible.Heading
+    }
+    Rectangle {
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        Layout.minimumHeight: 120
+        radius: 8
+        color: Theme.textBackground
+        border.color: Theme.separator
+
+        FocusRing {
+            cornerRadius: 8
+            shown: list.activeFocus
+        }
+
+        ListView {
+            id: list
+            anchors.fill: parent
+            anchors.margins: 1
+            model: view.model
+            clip: true
+            reuseItems: true
+            topMargin: 4
+            bottomMargin: 4
+            boundsBehavior: Flickable.StopAtBounds
+            activeFocusOnTab: true
+            keyNavigationEnabled: true
+            highlightMoveDuration: 0
+            Accessible.role: Accessible.List
+            Accessible.name: "Activity"
+            T.ScrollBar.vertical: SlimScrollBar {}
+            delegate: ActivityRow { width: list.width }
+        }
+    }
+}

@@ -1,0 +1,49 @@
+import QtQuick
+import QtQuick.Layouts
+import Velmora
+
+/// The message of the chosen list and what can be inserted into it.
+ColumnLayout {
+    id: section
+
+    required property ComposeModel model
+
+    spacing: 8
+
+    BodyText {
+        text: "Message"
+        font.pixelSize: Theme.headline
+        font.weight: Font.DemiBold
+        Accessible.role: Accessible.Heading
+    }
+    MessageEditor {
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        Layout.minimumHeight: 140
+        Layout.preferredHeight: 200
+        Layout.maximumHeight: 280
+        enabled: !section.model.locked
+        accessibleName: "Message"
+        text: section.model.message
+        onEdited: text => section.model.setMessage(text)
+    }
+    RowLayout {
+        Layout.fillWidth: true
+        spacing: 12
+
+        MenuButton {
+            borderless: true
+            enabled: !section.model.locked
+            symbol: "plus.circle"
+            text: "Insert"
+            entries: section.model.insertEntries
+            onChosen: index => section.model.insert(index)
+        }
+        BodyText {
+            Layout.fillWidth: true
+            text: section.model.hint
+            color: Theme.secondary
+            font.pixelSize: Theme.caption
+        }
+    }
+}

@@ -1,0 +1,65 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Velmora
+
+/// The personal note of one person: its field, or the offer to add one.
+FocusScope {
+    id: line
+
+    property string note
+    property bool showsField: false
+    property bool showsOffer: false
+    property bool fieldEnabled: true
+
+    /// The keyboard enters the field, or asks for it.
+    signal entered
+    signal edited(string text)
+    /// The field gives the keyboard back.
+    signal left
+
+    function enter(): bool {
+        if (showsOffer)
+            entered();
+        if (showsField && fieldEnabled)
+            forceActiveFocus(Qt.TabFocusReason);
+        return activeFocus;
+    }
+
+    implicitHeight: showsField ? field.implicitHeight : offer.implicitHeight
+
+    Loader {
+        id: offer
+        active: line.showsOffer
+        sourceComponent: PushButton {
+            kind: PushButton.Link
+            fontSize: Theme.caption
+            symbol: "square.and.pencil"
+            text: "Add note"
+            focusPolicy: Qt.NoFocus
+            onClicked: line.enter()
+        }
+    }
+    Loader {
+        id: field
+        width: line.width
+        active: line.showsField
+        focus: true
+        sourceComponent: TextEntry {
+            focus: true
+            activeFocusOnTab: false
+            small: true
+            placeholder: "Personal note"
+            text: line.note
+            enabled: line.fieldEnabled
+            onActiveFocusChanged: if (activeFocus) line.entered()
+            onEdited: text => line.edited(text)
+            Keys.onUpPressed: {}
+            Keys.onDownPressed: {}
+            Keys.onReturnPressed: line.left()
+            Keys.onEnterPressed: line.left()
+            Keys.onEscapePressed: line.left()
+            Keys.onBacktabPressed: line.left()
+            Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+        }
+    }
+}

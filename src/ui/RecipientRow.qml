@@ -1,0 +1,183 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Velmora
+
+/// One person: the check box, who they are with what they will receive, and their number with its
+/// conversation.
+FocusScope {
+    id: row
+
+    required property RecipientsModel recipients
+    required property int index
+    required property string name
+    required property string company
+    required property string sentText
+    required property string issueText
+    required property string issueTextColor
+    required property string issueSymbol
+    required property string issueSymbolColor
+    required property string preview
+    required property string note
+    required property bool showsNote
+    required property bool offersNote
+    required property string phone
+    required property string phoneLabel
+    required property string threadText
+    required property string threadTextColor
+    required property string threadSymbol
+    required property string threadSymbolColor
+    required property bool checked
+    required property bool checkable
+    required property string checkName
+    required property real rowOpacity
+    required property string spoken
+
+    readonly property bool current: ListView.isCurrentItem
+
+    /// The row becomes the current one.
+    signal activated
+    /// The row gives the keyboard back to its list.
+    signal taken
+
+    function enterNote(): bool {
+        return noteLine.enter();
+    }
+    function take() {
+        noteLine.focus = false;
+        passage.focus = false;
+        activated();
+        taken();
+    }
+
+    implicitHeight: Math.max(left.height, right.height, box.height + 1) + 10
+    onCurrentChanged: if (!current) noteLine.focus = false
+    ListView.onPooled: noteLine.focus = false
+    Accessible.role: Accessible.ListItem
+    Accessible.name: spoken
+    Accessible.focusable: true
+    Accessible.focused: activeFocus
+    Accessible.onPressAction: recipients.toggle(index)
+
+    MouseArea {
+        anchors.fill: parent
+        preventStealing: true
+        onPressed: row.take()
+    }
+    Rectangle {
+        anchors.fill: parent
+        anchors.leftMargin: 8
+        anchors.rightMargin: 8
+        radius: Theme.radius
+        color: row.current && row.activeFocus ? Theme.quaternary : "transparent"
+        border.width: ring ? 2 : 0
+        border.color: Theme.focusRing
+
+        readonly property bool ring: row.activeFocus && !noteLine.activeFocus
+                                     && !passage.activeFocus
+    }
+    HorizontalDivider {
+        anchors.bottom: parent.bottom
+        x: left.x + content.x
+        width: row.width - x - content.anchors.rightMargin
+    }
+
+    Item {
+        id: content
+        anchors.fill: parent
+        anchors.leftMargin: 18
+        anchors.rightMargin: 18
+        anchors.topMargin: 5
+        opacity: row.rowOpacity
+
+        TickBox {
+            id: box
+            y: 1
+            focusPolicy: Qt.NoFocus
+            checked: row.checked
+            enabled: row.checkable
+            accessibleName: row.checkName
+            onToggled: checked => row.recipients.setChecked(row.index, checked)
+        }
+
+        Column {
+            id: left
+            x: box.width + 12
+            width: content.width - x - 12 - right.width
+            spacing: 3
+
+            Flow {
+                width: parent.width
+                spacing: 6
+
+                BodyText {
+                    id: nameText
+                    width: Math.min(implicitWidth, parent.width)
+                    text: row.name
+                    font.pixelSize: Theme.headline
+                    font.weight: Font.DemiBold
+                    wrapMode: Text.NoWrap
+                    elide: Text.ElideRight
+                }
+                BodyText {
+                    width: Math.min(implicitWidth, parent.width)
+                    visible: text.length > 0
+                    text: row.company
+                    color: Theme.secondary
+                    wrapMode: Text.NoWrap
+                    elide: Text.ElideRight
+                }
+                LabelWithSymbol {
+                    height: nameText.height
+                    visible: text.length > 0
+                    text: row.sentText
+                    symbol: "checkmark.seal.fill"
+                    textColor: Theme.green
+                    fontSize: Theme.caption
+                    spacing: 4
+                }
+            }
+            LabelWithSymbol {
+                width: parent.width
+                visible: text.length > 0
+                text: row.issueText
+                symbol: row.issueSymbol
+                textColor: Theme[row.issueTextColor]
+                symbolColor: Theme[row.issueSymbolColor]
+                fontSize: Theme.callout
+            }
+            SelectableText {
+                id: passage
+                width: parent.width
+                visible: text.length > 0
+                text: row.preview
+                lines: 3
+            }
+            NoteLine {
+                id: noteLine
+                width: parent.width
+                visible: row.showsNote || row.offersNote
+                note: row.note
+                showsField: row.showsNote
+                showsOffer: row.offersNote
+                fieldEnabled: row.recipients.enabled
+                onEntered: {
+                    row.recipients.editNote(row.index);
+                    row.activated();
+                }
+                onEdited: text => row.recipients.setNote(row.index, text)
+                onLeft: row.take()
+            }
+        }
+
+        RecipientLine {
+            id: right
+            anchors.right: parent.right
+            phone: row.phone
+            phoneLabel: row.phoneLabel
+            threadText: row.threadText
+            threadTextColor: Theme[row.threadTextColor]
+            threadSymbol: row.threadSymbol
+            threadSymbolColor: Theme[row.threadSymbolColor]
+        }
+    }
+}

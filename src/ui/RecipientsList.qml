@@ -1,0 +1,82 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+import Velmora
+
+/// The rows of the people. One stop for the keyboard: arrows move, Space checks, Return or Tab
+/// enters the row's note.
+ListView {
+    id: list
+
+    required property RecipientsModel recipients
+
+    function goTo(row: int) {
+        currentIndex = Math.max(0, Math.min(count - 1, row));
+        positionViewAtIndex(currentIndex, ListView.Contain);
+    }
+    function enterNote(): bool {
+        const row = currentItem as RecipientRow;
+        return row !== null && row.enterNote();
+    }
+
+    readonly property int revision: recipients.revision
+    readonly property int page: Math.max(1, Math.floor(height / 80))
+
+    model: recipients
+    clip: true
+    reuseItems: true
+    cacheBuffer: 200
+    topMargin: 6
+    bottomMargin: 10
+    boundsBehavior: Flickable.StopAtBounds
+    highlightFollowsCurrentItem: false
+    keyNavigationEnabled: false
+    activeFocusOnTab: true
+    Accessible.role: Accessible.List
+    Accessible.name: "People"
+    T.ScrollBar.vertical: SlimScrollBar {}
+
+    Keys.onUpPressed: goTo(currentIndex - 1)
+    Keys.onDownPressed: goTo(currentIndex + 1)
+    Keys.onSpacePressed: recipients.toggle(currentIndex)
+    Keys.onReturnPressed: enterNote()
+    Keys.onEnterPressed: enterNote()
+    Keys.onTabPressed: event => event.accepted = enterNote()
+    Keys.onPressed: event => {
+        const to = {
+            [Qt.Key_Home]: 0,
+            [Qt.Key_End]: count - 1,
+            [Qt.Key_PageUp]: currentIndex - page,
+            [Qt.Key_PageDown]: currentIndex + page
+        }[event.key];
+        event.accepted = to !== undefined;
+        if (event.accepted)
+            goTo(to);
+    }
+
+    // Tells the model which rows to spare when a search changes nearly all of them. A list that
+    // stands at its beginning shows the beginning of what the search leaves.
+    onContentYChanged: recipients.topRow = indexAt(width / 2, contentY + 1)
+    onRevisionChanged: if (recipients.topRow <= 0) positionViewAtBeginning()
+
+    section.property: "section"
+    section.delegate: BodyText {
+        width: list.width
+        leftPadding: 26
+        rightPadding: 26
+        topPadding: 14
+        bottomPadding: 4
+        text: list.recipients.blockedHeading
+        color: Theme.secondary
+        font.pixelSize: Theme.callout
+        font.weight: Font.DemiBold
+        Accessible.role: Accessible.Heading
+    }
+
+    delegate: RecipientRow {
+        width: list.width
+        recipients: list.recipients
+        onActivated: list.currentIndex = index
+        onTaken: list.forceActiveFocus(Qt.OtherFocusReason)
+    }
+}

@@ -1,0 +1,35 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Layouts
+import Velmora
+
+/// The chosen list's people below their toolbar, or why there is nobody to show.
+ColumnLayout {
+    id: pane
+
+    required property RecipientsModel model
+
+    spacing: 0
+
+    RecipientsToolbar {
+        Layout.fillWidth: true
+        model: pane.model
+    }
+    HorizontalDivider {
+        Layout.fillWidth: true
+    }
+    EmptyState {
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        visible: !pane.model.showsPeople
+        icon: pane.model.emptyIcon
+        title: pane.model.emptyTitle
+        message: pane.model.emptyMessage
+    }
+    RecipientsList {
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        visible: pane.model.showsPeople
+        recipients: pane.model
+    }
+}

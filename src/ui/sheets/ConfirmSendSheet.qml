@@ -1,0 +1,102 @@
+import QtQuick
+import QtQuick.Layouts
+import Velmora
+
+/// The last step before a run: what will be sent, how fast, and under which name.
+SheetFrame {
+    id: sheet
+
+    required property ConfirmModel model
+
+    title: model.title
+    defaultWidth: 480
+    onCancelled: model.cancel()
+    onAccepted: model.startSending()
+
+    ColumnLayout {
+        Layout.fillWidth: true
+        visible: sheet.model.exampleCaption.length > 0
+        spacing: 6
+
+        BodyText {
+            Layout.fillWidth: true
+            text: sheet.model.exampleCaption
+            color: Theme.secondary
+            font.pixelSize: Theme.caption
+        }
+        Rectangle {
+            Layout.fillWidth: true
+            implicitHeight: Math.min(240, example.implicitHeight + 24)
+            radius: 12
+            color: Theme.quaternary
+
+            Flickable {
+                anchors.fill: parent
+                anchors.margins: 12
+                contentHeight: example.implicitHeight
+                interactive: contentHeight > height
+                boundsBehavior: Flickable.StopAtBounds
+                clip: interactive
+
+                SelectableText {
+                    id: example
+                    width: parent.width
+                    height: implicitHeight
+                    text: sheet.model.exampleText
+                    color: Theme.primary
+                    fontSize: Theme.body
+                }
+            }
+        }
+    }
+    GridLayout {
+        Layout.fillWidth: true
+        columns: 2
+        columnSpacing: 12
+        rowSpacing: 10
+
+        BodyText {
+            Layout.alignment: Qt.AlignRight
+            text: "From"
+            color: Theme.secondary
+        }
+        BodyText { text: sheet.model.from }
+        BodyText {
+            Layout.alignment: Qt.AlignRight
+            text: "Pace"
+            color: Theme.secondary
+        }
+        BodyText {
+            Layout.fillWidth: true
+            text: sheet.model.pace
+        }
+        BodyText {
+            Layout.alignment: Qt.AlignRight
+            text: "Run name"
+            color: Theme.secondary
+        }
+        TextEntry {
+            Layout.preferredWidth: 240
+            accessibleName: "Run name"
+            text: sheet.model.runName
+            onEdited: text => sheet.model.setRunName(text)
+        }
+    }
+    BodyText {
+        Layout.fillWidth: true
+        text: "Keep your Mac open and your iPhone on until it finishes. Sending the same run again skips anyone already sent."
+        color: Theme.secondary
+        font.pixelSize: Theme.caption
+    }
+    buttons: [
+        PushButton {
+            text: "Cancel"
+            onClicked: sheet.model.cancel()
+        },
+        PushButton {
+            kind: PushButton.Prominent
+            text: "Start Sending"
+            onClicked: sheet.model.startSending()
+        }
+    ]
+}
