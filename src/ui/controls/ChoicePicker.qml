@@ -7,7 +7,7 @@ import Velmora
 MenuOpener {
     id: picker
 
-    property list<string> options
+    property var options: []
     property int currentIndex: -1
     property string accessibleName
 

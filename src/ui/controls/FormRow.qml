@@ -9,6 +9,7 @@ RowLayout {
     property string title
 
     Layout.fillWidth: true
+    Layout.fillHeight: false
     Layout.leftMargin: 10
     Layout.rightMargin: 10
     Layout.minimumHeight: 40
@@ -17,6 +18,8 @@ RowLayout {
     BodyText {
         Layout.fillWidth: true
         text: row.title
+        wrapMode: Text.NoWrap
+        elide: Text.ElideRight
         visible: row.title.length > 0
     }
 }
