@@ -94,12 +94,12 @@ std::vector<LogEntry> SendLog::load(const QString& batch) {
 }
 
 QSet<QString> SendLog::alreadySent(const QString& batch) {
-    QSet<QString> phones;
+    QStringList phones;
     readEntryRows(logFile(batch), [&](const CSVReader& row) {
         if (isSentStatus(row.field(Column::status)))
-            phones.insert(row.field(Column::phone).toString());
+            phones += row.field(Column::phone).toString();
     });
-    return phones;
+    return {phones.begin(), phones.end()};
 }
 
 QString SendLog::logFile(const QString& batch) {

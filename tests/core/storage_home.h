@@ -60,8 +60,9 @@ class OrdinaryUser {
   public:
     OrdinaryUser() {
         constexpr uid_t nobody = 65534;
-        if (user_ == 0)
+        if (user_ == 0) {
             EXPECT_EQ(::seteuid(nobody), 0);
+        }
     }
     ~OrdinaryUser() { EXPECT_EQ(::seteuid(user_), 0); }
     Q_DISABLE_COPY_MOVE(OrdinaryUser)
