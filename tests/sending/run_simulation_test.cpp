@@ -1,5 +1,5 @@
-#include <QElapsedTimer>
 #include <array>
+#include <ctime>
 
 #include "sending/sending_world.h"
 
@@ -51,15 +51,14 @@ class Simulation : public SendingWorld {
 };
 
 // Catches whatever makes two equal runs differ, a run that does not end, and one that has become
-// slow: it takes some 30 ms without sanitizers.
+// slow. What counts is the processor's time: the disk's depends on the machine.
 TEST(RunSimulation, ARunOf60WithEveryFaultIsTheSameTwice) {
-    QElapsedTimer timer;
-    timer.start();
+    const std::clock_t before = std::clock();
     Simulation first;
     const QByteArray result = first.run();
-    const qint64 elapsed = timer.elapsed();
-    RecordProperty("milliseconds", static_cast<int>(elapsed));
-    EXPECT_LT(elapsed, 5000);
+    const double seconds = static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
+    RecordProperty("processorMilliseconds", static_cast<int>(seconds * 1000));
+    EXPECT_LT(seconds, 5);
     EXPECT_EQ(first.runner->done, crowd);
     EXPECT_TRUE(first.reasons.contains(u"Outside your sending hours"));
     EXPECT_TRUE(first.reasons.contains(u"got it from (555) 010-0002"));
