@@ -1,6 +1,7 @@
 #include "core/send_log.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include "core/csv.h"
 #include "core/files.h"
@@ -68,9 +69,11 @@ LogEntry entryOf(const CSVReader& row, const LogEntry& previous) {
 
 void SendLog::append(const LogEntry& entry) {
     const QString path = logFile(entry.batch);
-    const QByteArray bytes = csvLine(entry).toUtf8();
-    const auto done = QFile::exists(path) ? appendToFile(path, endOfTornLine(path) + bytes)
-                                          : replaceFile(path, headerLine().toUtf8() + bytes);
+    const QByteArray line = csvLine(entry).toUtf8();
+    // An empty file needs the header, too: its first line is skipped when it is read.
+    const bool isEmpty = QFileInfo(path).size() == 0;
+    const QByteArray bytes = (isEmpty ? headerLine().toUtf8() : endOfTornLine(path)) + line;
+    const auto done = QFile::exists(path) ? appendToFile(path, bytes) : replaceFile(path, bytes);
     static_cast<void>(done);
 }
 

@@ -108,6 +108,9 @@ TEST_F(SendLogTest, ATornLastLineSwallowsNoOther) {
         EXPECT_TRUE(log.alreadySent(u"Party"_s).contains(u"+3"_s)) << torn.constData();
         EXPECT_TRUE(log.alreadySent(u"Party"_s).contains(u"+1"_s));
     }
+    put("");
+    log.append(entry(u"+3"_s, u"sent"_s));
+    EXPECT_TRUE(log.alreadySent(u"Party"_s).contains(u"+3"_s)) << "taken for the header";
 }
 
 TEST_F(SendLogTest, FailedWritesLeaveTheFileWhole) {
