@@ -15,7 +15,7 @@ FocusScope {
     signal entered
     signal edited(string text)
     /// The field gives the keyboard back.
-    signal left
+    signal finished
 
     function enter(): bool {
         if (showsOffer)
@@ -55,10 +55,10 @@ FocusScope {
             onEdited: text => line.edited(text)
             Keys.onUpPressed: {}
             Keys.onDownPressed: {}
-            Keys.onReturnPressed: line.left()
-            Keys.onEnterPressed: line.left()
-            Keys.onEscapePressed: line.left()
-            Keys.onBacktabPressed: line.left()
+            Keys.onReturnPressed: line.finished()
+            Keys.onEnterPressed: line.finished()
+            Keys.onEscapePressed: line.finished()
+            Keys.onBacktabPressed: line.finished()
             Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
         }
     }

@@ -49,7 +49,7 @@ FocusScope {
         taken();
     }
 
-    implicitHeight: Math.max(left.height, right.height, box.height + 1) + 10
+    implicitHeight: Math.max(words.height, line.height, box.height + 1) + 10
     onCurrentChanged: if (!current) noteLine.focus = false
     ListView.onPooled: noteLine.focus = false
     Accessible.role: Accessible.ListItem
@@ -77,7 +77,7 @@ FocusScope {
     }
     HorizontalDivider {
         anchors.bottom: parent.bottom
-        x: left.x + content.x
+        x: words.x + content.x
         width: row.width - x - content.anchors.rightMargin
     }
 
@@ -100,9 +100,9 @@ FocusScope {
         }
 
         Column {
-            id: left
+            id: words
             x: box.width + 12
-            width: content.width - x - 12 - right.width
+            width: content.width - x - 12 - line.width
             spacing: 3
 
             Flow {
@@ -165,12 +165,12 @@ FocusScope {
                     row.activated();
                 }
                 onEdited: text => row.recipients.setNote(row.index, text)
-                onLeft: row.take()
+                onFinished: row.take()
             }
         }
 
         RecipientLine {
-            id: right
+            id: line
             anchors.right: parent.right
             phone: row.phone
             phoneLabel: row.phoneLabel
