@@ -25,12 +25,13 @@ FocusScope {
         return activeFocus;
     }
 
-    implicitHeight: showsField ? field.implicitHeight : offer.implicitHeight
+    implicitHeight: childrenRect.height
 
-    Loader {
-        id: offer
-        active: line.showsOffer
-        sourceComponent: PushButton {
+    // A repeater of one or none: most rows need neither, and making a field is what costs.
+    Repeater {
+        model: line.showsOffer ? 1 : 0
+
+        PushButton {
             kind: PushButton.Link
             fontSize: Theme.caption
             symbol: "square.and.pencil"
@@ -39,12 +40,11 @@ FocusScope {
             onClicked: line.enter()
         }
     }
-    Loader {
-        id: field
-        width: line.width
-        active: line.showsField
-        focus: true
-        sourceComponent: TextEntry {
+    Repeater {
+        model: line.showsField ? 1 : 0
+
+        TextEntry {
+            width: line.width
             focus: true
             activeFocusOnTab: false
             small: true

@@ -31,6 +31,7 @@ FocusScope {
     required property string checkName
     required property real rowOpacity
     required property string spoken
+    required property string heading
 
     readonly property bool current: ListView.isCurrentItem
 
@@ -50,6 +51,7 @@ FocusScope {
     }
 
     implicitHeight: Math.max(words.height, line.height, box.height + 1) + 10
+                    + content.headingHeight
     onCurrentChanged: if (!current) noteLine.focus = false
     ListView.onPooled: noteLine.focus = false
     Accessible.role: Accessible.ListItem
@@ -58,6 +60,19 @@ FocusScope {
     Accessible.focused: activeFocus
     Accessible.onPressAction: recipients.toggle(index)
 
+    BodyText {
+        id: headingText
+        x: 18
+        width: row.width - 2 * x
+        topPadding: 14
+        bottomPadding: 6
+        visible: text.length > 0
+        text: row.heading
+        color: Theme.secondary
+        font.pixelSize: Theme.callout
+        font.weight: Font.DemiBold
+        Accessible.role: Accessible.Heading
+    }
     MouseArea {
         anchors.fill: parent
         preventStealing: true
@@ -65,6 +80,7 @@ FocusScope {
     }
     Rectangle {
         anchors.fill: parent
+        anchors.topMargin: content.headingHeight
         anchors.leftMargin: 8
         anchors.rightMargin: 8
         radius: Theme.radius
@@ -83,10 +99,13 @@ FocusScope {
 
     Item {
         id: content
+
+        readonly property real headingHeight: headingText.visible ? headingText.implicitHeight : 0
+
         anchors.fill: parent
         anchors.leftMargin: 18
         anchors.rightMargin: 18
-        anchors.topMargin: 5
+        anchors.topMargin: 5 + headingHeight
         opacity: row.rowOpacity
 
         TickBox {

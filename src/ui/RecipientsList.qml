@@ -59,20 +59,6 @@ ListView {
     onContentYChanged: recipients.topRow = indexAt(width / 2, contentY + 1)
     onRevisionChanged: if (recipients.topRow <= 0) positionViewAtBeginning()
 
-    section.property: "section"
-    section.delegate: BodyText {
-        width: list.width
-        leftPadding: 26
-        rightPadding: 26
-        topPadding: 14
-        bottomPadding: 4
-        text: list.recipients.blockedHeading
-        color: Theme.secondary
-        font.pixelSize: Theme.callout
-        font.weight: Font.DemiBold
-        Accessible.role: Accessible.Heading
-    }
-
     delegate: RecipientRow {
         width: list.width
         recipients: list.recipients

@@ -73,6 +73,7 @@ void RecipientsModel::followRows() {
             endInsertRows();
         }
     }
+    announce(firstBlocked(), rowCount() - 1, {headingRole});
     ++revision_;
     Q_EMIT contentChanged();
 }
@@ -182,11 +183,6 @@ QString RecipientsModel::emptyMessage() const {
         return u"Add people to this group in Contacts, then choose Reload."_s;
     return searchText().isEmpty() ? u"Switch to All and check the people you want to text."_s
                                   : u"Nobody in this list matches your search."_s;
-}
-
-QString RecipientsModel::blockedHeading() const {
-    const auto isBlocked = [](const QString& key) { return key.startsWith(u'\n'); };
-    return u"Can't text \u00B7 %1"_s.arg(std::ranges::count_if(rows_, isBlocked));
 }
 
 void RecipientsModel::setTopRow(int row) {

@@ -26,7 +26,6 @@ class RecipientsModel final : public QAbstractListModel {
     Q_PROPERTY(QString emptyIcon READ emptyIcon NOTIFY contentChanged)
     Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY contentChanged)
     Q_PROPERTY(QString emptyMessage READ emptyMessage NOTIFY contentChanged)
-    Q_PROPERTY(QString blockedHeading READ blockedHeading NOTIFY contentChanged)
     Q_PROPERTY(int revision READ revision NOTIFY contentChanged)
     Q_PROPERTY(int topRow READ topRow WRITE setTopRow NOTIFY topRowChanged)
 
@@ -55,7 +54,7 @@ class RecipientsModel final : public QAbstractListModel {
         checkNameRole,            ///< `checkName`: the check box in words
         rowOpacityRole,           ///< `rowOpacity`
         spokenRole,               ///< `spoken`: the row in words
-        sectionRole               ///< `section`: "blocked" for those who can't be texted, or empty
+        headingRole               ///< `heading` above the first of those who can't be texted
     };
 
     explicit RecipientsModel(AppModel& model);
@@ -77,8 +76,6 @@ class RecipientsModel final : public QAbstractListModel {
     [[nodiscard]] QString emptyIcon() const;
     [[nodiscard]] QString emptyTitle() const;
     [[nodiscard]] QString emptyMessage() const;
-    /// Heads the rows of those who can't be texted, with their number.
-    [[nodiscard]] QString blockedHeading() const;
 
     /// Another number each time when other people may be shown.
     [[nodiscard]] int revision() const { return revision_; }
@@ -108,6 +105,8 @@ class RecipientsModel final : public QAbstractListModel {
 
   private:
     [[nodiscard]] const Recipient* recipientAt(int row) const;
+    [[nodiscard]] int firstBlocked() const;
+    [[nodiscard]] QString heading(int row) const;
     [[nodiscard]] QVariant noteData(const Recipient& recipient, int role) const;
     [[nodiscard]] QVariant stateData(const Recipient& recipient, int role) const;
     [[nodiscard]] bool isChecked(const Recipient& recipient) const;

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "compose/template_renderer.h"
 #include "core/phone.h"
 #include "ui/recipient_display.h"
@@ -34,7 +36,7 @@ QHash<int, QByteArray> RecipientsModel::roleNames() const {
             {checkNameRole, "checkName"},
             {rowOpacityRole, "rowOpacity"},
             {spokenRole, "spoken"},
-            {sectionRole, "section"}};
+            {headingRole, "heading"}};
 }
 
 QVariant RecipientsModel::data(const QModelIndex& index, int role) const {
@@ -44,6 +46,8 @@ QVariant RecipientsModel::data(const QModelIndex& index, int role) const {
     if (recipient == nullptr)
         return {};
     switch (role) {
+        case headingRole:
+            return heading(index.row());
         case nameRole:
             return displayName(*recipient);
         case companyRole:
@@ -105,8 +109,6 @@ QVariant RecipientsModel::stateData(const Recipient& recipient, int role) const 
             return rowOpacity(recipient, isChecked(recipient));
         case spokenRole:
             return spokenRow(recipient, isChecked(recipient));
-        case sectionRole:
-            return recipient.usable ? QString() : u"blocked"_s;
         default:
             return {};
     }
@@ -117,6 +119,17 @@ const Recipient* RecipientsModel::recipientAt(int row) const {
         return nullptr;
     const qsizetype index = indexes_.value(rows_[static_cast<size_t>(row)], -1);
     return index < 0 ? nullptr : &model_.recipients()[static_cast<size_t>(index)];
+}
+
+// The first row whose key is that of someone who can't be texted.
+int RecipientsModel::firstBlocked() const {
+    const auto first = std::ranges::partition_point(
+        rows_, [](const QString& key) { return !key.startsWith(u'\n'); });
+    return static_cast<int>(first - rows_.begin());
+}
+
+QString RecipientsModel::heading(int row) const {
+    return row == firstBlocked() ? u"Can't text \u00B7 %1"_s.arg(rowCount() - row) : QString();
 }
 
 bool RecipientsModel::isChecked(const Recipient& recipient) const {
