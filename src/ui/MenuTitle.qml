@@ -17,7 +17,7 @@ T.AbstractButton {
     signal wanted(int place)
     signal left
 
-    implicitWidth: words.implicitWidth + 20
+    implicitWidth: implicitContentWidth + 20
     text: modelData.title
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
@@ -31,7 +31,6 @@ T.AbstractButton {
     Accessible.onPressAction: title.wanted(title.index)
 
     contentItem: BodyText {
-        id: words
         text: title.text
         font.weight: title.modelData.application ? Font.DemiBold : Font.Normal
         horizontalAlignment: Text.AlignHCenter

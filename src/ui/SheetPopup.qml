@@ -22,9 +22,10 @@ T.Popup {
     y: Math.max(0, Math.min(titleBottom, parent.height - height))
     width: implicitWidth
     height: Math.min(implicitHeight, parent.height)
-    implicitWidth: contentItem.implicitWidth
-    implicitHeight: contentItem.implicitHeight
+    implicitWidth: implicitContentWidth
+    implicitHeight: implicitContentHeight
     padding: 0
+    clip: hidden > 0
     modal: true
     focus: true
     closePolicy: T.Popup.NoAutoClose
@@ -53,20 +54,12 @@ T.Popup {
         }
     }
 
-    contentItem: FocusScope {
-        implicitWidth: loader.implicitWidth
-        implicitHeight: loader.implicitHeight
+    contentItem: Loader {
+        active: popup.visible
         focus: true
-        clip: popup.hidden > 0
-
-        Loader {
-            id: loader
-            width: parent.width
-            height: parent.height
-            y: -popup.hidden * height
-            active: popup.visible
-            focus: true
-            sourceComponent: popup.sheet
+        sourceComponent: popup.sheet
+        transform: Translate {
+            y: -popup.hidden * popup.height
         }
     }
 }
