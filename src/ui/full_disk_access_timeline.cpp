@@ -39,9 +39,12 @@ double FullDiskAccessTimeline::opacity() const {
     return time_ <= 6.3 ? 1.0 : std::max(0.0, 1 - ((time_ - 6.3) / 0.6));
 }
 
-QPointF FullDiskAccessTimeline::pointer() const {
-    const double way = eased(time_, 0.4, 1.6);
-    return {250 + (23 * way), 180 - (90 * way)};
+double FullDiskAccessTimeline::pointerX() const {
+    return 250 + (23 * eased(time_, 0.4, 1.6));
+}
+
+double FullDiskAccessTimeline::pointerY() const {
+    return 180 - (90 * eased(time_, 0.4, 1.6));
 }
 
 double FullDiskAccessTimeline::pointerScale() const {

@@ -2,7 +2,6 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
-#include <QPointF>
 
 #include "core/moment.h"
 
@@ -15,7 +14,8 @@ class FullDiskAccessTimeline : public QObject {
     QML_ELEMENT
     Q_PROPERTY(double time READ time WRITE setTime NOTIFY timeChanged)
     Q_PROPERTY(double opacity READ opacity NOTIFY timeChanged)
-    Q_PROPERTY(QPointF pointer READ pointer NOTIFY timeChanged)
+    Q_PROPERTY(double pointerX READ pointerX NOTIFY timeChanged)
+    Q_PROPERTY(double pointerY READ pointerY NOTIFY timeChanged)
     Q_PROPERTY(double pointerScale READ pointerScale NOTIFY timeChanged)
     Q_PROPERTY(double switchedOn READ switchedOn NOTIFY timeChanged)
 
@@ -33,7 +33,8 @@ class FullDiskAccessTimeline : public QObject {
     /// Of the whole drawing, 0 to 1.
     [[nodiscard]] double opacity() const;
     /// The tip of the pointer, in points of the drawing from its top left.
-    [[nodiscard]] QPointF pointer() const;
+    [[nodiscard]] double pointerX() const;
+    [[nodiscard]] double pointerY() const;
     /// Smaller while the pointer presses.
     [[nodiscard]] double pointerScale() const;
     /// How far the switch is on, 0 to 1.

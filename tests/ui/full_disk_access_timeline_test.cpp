@@ -25,12 +25,14 @@ TEST(FullDiskAccessTimeline, FadesInAndOut) {
 // Catches a pointer that starts, ends or eases elsewhere, and so presses beside the switch.
 TEST(FullDiskAccessTimeline, ThePointerGlidesToTheSwitchAndPressesIt) {
     FullDiskAccessTimeline timeline;
-    EXPECT_EQ(at(timeline, 0.4).pointer(), QPointF(250, 180));
-    const QPointF quarter = at(timeline, 0.8).pointer();
-    EXPECT_NEAR(quarter.x(), 250 + (23 * 0.15625), 1e-9);
-    EXPECT_NEAR(quarter.y(), 180 - (90 * 0.15625), 1e-9);
-    EXPECT_EQ(at(timeline, 2.0).pointer(), QPointF(273, 90));
-    EXPECT_EQ(at(timeline, 6.9).pointer(), QPointF(273, 90));
+    const auto pointsTo = [&](double time, double x, double y) {
+        EXPECT_NEAR(at(timeline, time).pointerX(), x, 1e-9);
+        EXPECT_NEAR(timeline.pointerY(), y, 1e-9);
+    };
+    pointsTo(0.4, 250, 180);
+    pointsTo(0.8, 250 + (23 * 0.15625), 180 - (90 * 0.15625));
+    pointsTo(2.0, 273, 90);
+    pointsTo(6.9, 273, 90);
 
     EXPECT_DOUBLE_EQ(at(timeline, 2.05).pointerScale(), 1);
     EXPECT_DOUBLE_EQ(at(timeline, 2.2).pointerScale(), 0.86);

@@ -15,8 +15,6 @@ MenuOpener {
 
     implicitWidth: popup.implicitWidth + 8
     implicitHeight: Theme.controlHeight
-    leftPadding: 9
-    rightPadding: 5
     text: options[currentIndex] ?? ""
     menu: popup
     Accessible.role: Accessible.ComboBox
@@ -34,7 +32,17 @@ MenuOpener {
         onChosen: index => picker.chosen(index)
     }
 
-    contentItem: RowLayout {
+    ControlSurface {
+        anchors.fill: parent
+        pressed: popup.visible
+        hovered: picker.hovered
+    }
+    FocusRing { shown: picker.activeFocus }
+
+    RowLayout {
+        anchors.fill: parent
+        anchors.leftMargin: 9
+        anchors.rightMargin: 5
         spacing: 6
 
         BodyText {
@@ -57,12 +65,5 @@ MenuOpener {
                 color: Theme.overAccent
             }
         }
-    }
-
-    background: ControlSurface {
-        pressed: popup.visible
-        hovered: picker.hovered
-
-        FocusRing { shown: picker.visualFocus }
     }
 }

@@ -84,6 +84,7 @@ FocusScope {
             ClockSegment {
                 id: half
                 visible: clock.twelveHour
+                Accessible.ignored: !visible
                 text: clock.halfText
                 value: clock.hour < 12 ? 0 : 1
                 maximumValue: 1

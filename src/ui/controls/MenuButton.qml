@@ -13,13 +13,13 @@ MenuOpener {
     property string help
     property var entries: []
     property int fontSize: Theme.body
+    readonly property int leftPadding: borderless ? 0 : 9
+    readonly property int rightPadding: borderless ? 0 : 7
 
     signal chosen(int index)
 
-    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitWidth: line.implicitWidth + leftPadding + rightPadding
     implicitHeight: borderless ? 20 : Theme.controlHeight
-    leftPadding: borderless ? 0 : 9
-    rightPadding: borderless ? 0 : 7
     menu: popup
     Accessible.role: Accessible.ButtonMenu
     Accessible.name: text
@@ -38,9 +38,21 @@ MenuOpener {
         wanted: button.hovered && !popup.visible
     }
 
-    contentItem: RowLayout {
+    ControlSurface {
+        anchors.fill: parent
+        visible: !button.borderless
+        pressed: popup.visible
+        hovered: button.hovered
+    }
+    FocusRing { shown: button.activeFocus }
+
+    RowLayout {
+        id: line
+        anchors.fill: parent
+        anchors.leftMargin: button.leftPadding
+        anchors.rightMargin: button.rightPadding
         spacing: 5
-        opacity: button.borderless && button.down ? 0.6 : 1
+        opacity: button.borderless && popup.visible ? 0.6 : 1
 
         SymbolIcon {
             visible: button.symbol.length > 0
@@ -60,15 +72,5 @@ MenuOpener {
             size: 10
             color: Theme.secondary
         }
-    }
-
-    background: Item {
-        ControlSurface {
-            anchors.fill: parent
-            visible: !button.borderless
-            pressed: popup.visible
-            hovered: button.hovered
-        }
-        FocusRing { shown: button.visualFocus }
     }
 }

@@ -1,27 +1,30 @@
 import QtQuick
-import QtQuick.Templates as T
 import Velmora
 
 /// The part of a button that opens a menu: on a press, on Space, Return or an arrow; a drag from
 /// the press to a line chooses that line.
-T.AbstractButton {
+Item {
     id: opener
 
     required property PopupMenu menu
+    property string text
     property bool dragged: false
+    readonly property bool hovered: hover.hovered
 
-    focusPolicy: Qt.TabFocus
-    hoverEnabled: true
+    activeFocusOnTab: true
     opacity: enabled ? 1 : 0.45
-    onPressed: menu.open()
+    Accessible.focusable: true
     Accessible.onPressAction: menu.open()
+    Keys.onSpacePressed: menu.open()
     Keys.onReturnPressed: menu.open()
     Keys.onEnterPressed: menu.open()
     Keys.onDownPressed: menu.open()
     Keys.onUpPressed: menu.open()
 
+    HoverHandler { id: hover }
+
     PointHandler {
-        id: pointer
+        acceptedButtons: Qt.LeftButton
         onPointChanged: {
             if (active && Math.abs(point.position.y - point.pressPosition.y) > 4)
                 opener.dragged = true;
@@ -29,7 +32,9 @@ T.AbstractButton {
                 opener.menu.track(point.scenePosition);
         }
         onActiveChanged: {
-            if (!active && opener.dragged && opener.menu.highlighted >= 0)
+            if (active)
+                opener.menu.open();
+            else if (opener.dragged && opener.menu.highlighted >= 0)
                 opener.menu.pick(opener.menu.highlighted);
             opener.dragged = false;
         }

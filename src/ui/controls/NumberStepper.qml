@@ -1,11 +1,10 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Templates as T
 import Velmora
 
 /// A titled whole number with arrows that step it between two ends.
-T.Control {
+Item {
     id: stepper
 
     property int value: 0
@@ -18,9 +17,9 @@ T.Control {
 
     signal changed(int value)
 
-    implicitWidth: implicitContentWidth
-    implicitHeight: Math.max(Theme.controlHeight, implicitContentHeight)
-    focusPolicy: Qt.TabFocus
+    implicitWidth: line.implicitWidth
+    implicitHeight: Math.max(Theme.controlHeight, line.implicitHeight)
+    activeFocusOnTab: true
     opacity: enabled ? 1 : 0.45
     Accessible.role: Accessible.SpinBox
     Accessible.name: text
@@ -29,7 +28,9 @@ T.Control {
     Keys.onUpPressed: if (value < to) changed(value + 1)
     Keys.onDownPressed: if (value > from) changed(value - 1)
 
-    contentItem: RowLayout {
+    RowLayout {
+        id: line
+        anchors.fill: parent
         spacing: 12
 
         BodyText {
@@ -42,7 +43,7 @@ T.Control {
             canDecrease: stepper.value > stepper.from
             onStepped: delta => stepper.changed(stepper.value + delta)
 
-            FocusRing { shown: stepper.visualFocus }
+            FocusRing { shown: stepper.activeFocus }
         }
     }
 }

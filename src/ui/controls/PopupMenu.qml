@@ -13,6 +13,7 @@ T.Popup {
     property int markedIndex: -1
     property bool marksColumn: false
     property int highlighted: -1
+    property Item focusedBefore: null
     readonly property real rowsTop: topPadding
 
     signal chosen(int index)
@@ -44,7 +45,11 @@ T.Popup {
     implicitWidth: column.implicitWidth + leftPadding + rightPadding
     implicitHeight: column.implicitHeight + topPadding + bottomPadding
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
-    onAboutToShow: highlighted = markedIndex
+    onAboutToShow: {
+        highlighted = markedIndex;
+        focusedBefore = parent.Window.activeFocusItem;
+    }
+    onClosed: focusedBefore?.forceActiveFocus(Qt.TabFocusReason)
     onOpened: flick.forceActiveFocus(Qt.PopupFocusReason)
 
     background: Item {

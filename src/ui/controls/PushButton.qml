@@ -36,8 +36,8 @@ T.AbstractButton {
     opacity: enabled ? 1 : 0.45
     Accessible.name: text
     Accessible.description: help
-    Keys.onReturnPressed: event => event.isAutoRepeat ? undefined : click()
-    Keys.onEnterPressed: event => event.isAutoRepeat ? undefined : click()
+    Keys.onReturnPressed: event => event.isAutoRepeat ? undefined : clicked()
+    Keys.onEnterPressed: event => event.isAutoRepeat ? undefined : clicked()
 
     HoverHandler {
         cursorShape: button.kind === PushButton.Link ? Qt.PointingHandCursor : Qt.ArrowCursor

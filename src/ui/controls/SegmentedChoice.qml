@@ -1,10 +1,9 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Templates as T
 import Velmora
 
 /// A row of segments of which one is chosen. Arrows, a click or a press choose another.
-T.Control {
+Item {
     id: choice
 
     property list<string> options
@@ -16,9 +15,7 @@ T.Control {
 
     implicitWidth: 64 * options.length
     implicitHeight: Theme.controlHeight
-    padding: 2
-    focusPolicy: Qt.TabFocus
-    hoverEnabled: true
+    activeFocusOnTab: true
     opacity: enabled ? 1 : 0.45
     Accessible.role: Accessible.Grouping
     Accessible.name: accessibleName
@@ -27,22 +24,25 @@ T.Control {
     Keys.onRightPressed: if (currentIndex < options.length - 1) chosen(currentIndex + 1)
     Keys.onSpacePressed: chosen((currentIndex + 1) % options.length)
 
+    HoverHandler { id: hover }
+
     HelpTip {
         text: choice.help
-        wanted: choice.hovered
+        wanted: hover.hovered
     }
 
-    background: Rectangle {
+    Rectangle {
+        anchors.fill: parent
         radius: Theme.radius
         color: Theme.quaternary
 
-        FocusRing { shown: choice.visualFocus }
+        FocusRing { shown: choice.activeFocus }
     }
 
     Item {
         id: track
         anchors.fill: parent
-        anchors.margins: choice.padding
+        anchors.margins: 2
         readonly property real segmentWidth: width / Math.max(1, choice.options.length)
 
         Rectangle {

@@ -1,10 +1,9 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Templates as T
 import Velmora
 
 /// A check box. It shows `checked` as its view binds it and asks for a change by `toggled`.
-T.Control {
+Item {
     id: box
 
     property bool checked: false
@@ -14,8 +13,7 @@ T.Control {
 
     implicitWidth: 16
     implicitHeight: 16
-    focusPolicy: Qt.TabFocus
-    hoverEnabled: true
+    activeFocusOnTab: true
     opacity: enabled ? 1 : 0.45
     Accessible.role: Accessible.CheckBox
     Accessible.name: accessibleName
@@ -33,11 +31,17 @@ T.Control {
         onTapped: box.toggled(!box.checked)
     }
 
-    background: Rectangle {
+    HoverHandler {
+        id: hover
+        margin: 4
+    }
+
+    Rectangle {
+        anchors.fill: parent
         radius: 4
         color: box.checked ? (tap.pressed ? Theme.accentPressed : Theme.accent)
                            : (tap.pressed ? Theme.controlPressed
-                                          : box.hovered ? Theme.controlHover
+                                          : hover.hovered ? Theme.controlHover
                                                         : Theme.controlBackground)
         border.width: box.checked ? 0 : 1
         border.color: Theme.dark ? Theme.tertiary : "#a4a4aa"
@@ -51,7 +55,7 @@ T.Control {
         }
         FocusRing {
             cornerRadius: 4
-            shown: box.visualFocus
+            shown: box.activeFocus
         }
     }
 }

@@ -116,9 +116,12 @@ Item {
                 }
             }
         }
-        ArrowPointer {
-            x: timeline.pointer.x
-            y: timeline.pointer.y
+        Image {
+            source: "qrc:/velmora/icon/arrow_pointer.svg"
+            sourceSize.width: 14
+            sourceSize.height: 20
+            x: timeline.pointerX
+            y: timeline.pointerY
             scale: timeline.pointerScale
             transformOrigin: Item.TopLeft
         }
