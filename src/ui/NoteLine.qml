@@ -36,7 +36,7 @@ FocusScope {
             fontSize: Theme.caption
             symbol: "square.and.pencil"
             text: "Add note"
-            focusPolicy: Qt.NoFocus
+            activeFocusOnTab: false
             onClicked: line.enter()
         }
     }

@@ -111,7 +111,7 @@ FocusScope {
         TickBox {
             id: box
             y: 1
-            focusPolicy: Qt.NoFocus
+            activeFocusOnTab: false
             checked: row.checked
             enabled: row.checkable
             accessibleName: row.checkName
