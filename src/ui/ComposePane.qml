@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
+import QtQuick.Templates as T
 import Velmora
 
 /// The right column: the message, the number it goes out from, and the run.
@@ -18,52 +19,67 @@ Item {
         message: "Choose a list to write the message and send it."
     }
 
-    ColumnLayout {
+    // Scrolls where the window is too low for all that a run shows.
+    Flickable {
+        id: flick
         anchors.fill: parent
-        anchors.margins: 16
         visible: pane.model.showsComposer
-        spacing: 18
+        contentHeight: column.height + 32
+        interactive: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+        clip: interactive
+        T.ScrollBar.vertical: SlimScrollBar {}
 
-        MessageSection {
-            Layout.fillWidth: true
-            model: pane.model
-        }
         ColumnLayout {
-            Layout.fillWidth: true
-            Layout.fillHeight: false
-            spacing: 8
+            id: column
+            x: 16
+            y: 16
+            width: flick.width - 32
+            height: Math.max(flick.height - 32, implicitHeight - message.spare)
+            spacing: 18
 
-            BodyText {
-                text: "Send from"
-                font.pixelSize: Theme.headline
-                font.weight: Font.DemiBold
-                Accessible.role: Accessible.Heading
-            }
-            MenuButton {
+            MessageSection {
+                id: message
                 Layout.fillWidth: true
-                enabled: !pane.model.locked
-                symbol: "iphone"
-                text: pane.model.senderTitle
-                help: "The number your texts come from"
-                entries: pane.model.senderEntries
-                onChosen: index => pane.model.chooseSender(index)
+                model: pane.model
             }
-        }
-        SendSection {
-            Layout.fillWidth: true
-            Layout.fillHeight: false
-            model: pane.model
-        }
-        ActivityView {
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-            Layout.minimumHeight: implicitHeight
-            visible: pane.model.showsActivity
-            model: pane.activity
-        }
-        Item {
-            Layout.fillHeight: true
-            visible: !pane.model.showsActivity
+            ColumnLayout {
+                Layout.fillWidth: true
+                Layout.fillHeight: false
+                spacing: 8
+
+                BodyText {
+                    text: "Send from"
+                    font.pixelSize: Theme.headline
+                    font.weight: Font.DemiBold
+                    Accessible.role: Accessible.Heading
+                }
+                MenuButton {
+                    Layout.fillWidth: true
+                    enabled: !pane.model.locked
+                    symbol: "iphone"
+                    text: pane.model.senderTitle
+                    help: "The number your texts come from"
+                    entries: pane.model.senderEntries
+                    onChosen: index => pane.model.chooseSender(index)
+                }
+            }
+            SendSection {
+                Layout.fillWidth: true
+                Layout.fillHeight: false
+                model: pane.model
+            }
+            ActivityView {
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                Layout.minimumHeight: implicitHeight
+                visible: pane.model.showsActivity
+                model: pane.activity
+            }
+            Item {
+                Layout.fillHeight: true
+                visible: !pane.model.showsActivity
+            }
         }
     }
 }

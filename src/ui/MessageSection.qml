@@ -8,6 +8,9 @@ ColumnLayout {
 
     required property ComposeModel model
 
+    /// By how much the section can be lower than it would like.
+    readonly property int spare: 200 - 140
+
     spacing: 8
 
     BodyText {
