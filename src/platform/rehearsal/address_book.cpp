@@ -44,7 +44,7 @@ QCoro::Task<bool> AddressBook::requestAccess() {
     co_return access() == ContactAccess::authorized;
 }
 
-std::expected<AddressBook::Book, ContactsError> AddressBook::read() const {
+std::expected<AddressBook::Book, ContactsError> AddressBook::parse() const {
     auto file = JsonFile::read(path_);
     if (!file)
         return std::unexpected(ContactsError{file.error().description});
@@ -64,31 +64,46 @@ std::expected<AddressBook::Book, ContactsError> AddressBook::read() const {
     return book;
 }
 
-std::expected<void, ContactsError> AddressBook::enumerateContacts(
-    const std::function<void(ContactRecord)>& visit) {
-    auto book = read();
+std::expected<std::shared_ptr<const AddressBook::Book>, ContactsError> AddressBook::read() {
+    const QByteArray bytes = readFile(path_).value_or(QByteArray());
+    if (book_ && bytes == bytes_)
+        return book_;
+    auto book = parse();
     if (!book)
         return std::unexpected(book.error());
-    for (ContactRecord& contact : book->contacts)
-        visit(std::move(contact));
+    auto parsed = std::make_shared<const Book>(std::move(*book));
+    // A file that is missing or cannot be read has no bytes to know it by.
+    book_ = bytes.isEmpty() ? nullptr : parsed;
+    bytes_ = bytes;
+    return parsed;
+}
+
+std::expected<void, ContactsError> AddressBook::enumerateContacts(
+    const std::function<void(ContactRecord)>& visit) {
+    const auto book = read();
+    if (!book)
+        return std::unexpected(book.error());
+    for (const ContactRecord& contact : (*book)->contacts)
+        visit(contact);
     return {};
 }
 
 std::expected<std::vector<ContactRecord>, ContactsError> AddressBook::membersOfGroup(
     const QString& identifier) {
-    auto book = read();
-    if (!book)
-        return std::unexpected(book.error());
-    const auto group = std::ranges::find(book->groups, identifier,
+    const auto read = this->read();
+    if (!read)
+        return std::unexpected(read.error());
+    const Book& book = **read;
+    const auto group = std::ranges::find(book.groups, identifier,
                                          [](const Group& each) { return each.record.identifier; });
-    if (group == book->groups.end())
+    if (group == book.groups.end())
         return std::unexpected(
             ContactsError{QStringLiteral("The group is no longer in the address book.")});
     const QSet<QString> members(group->members.begin(), group->members.end());
     std::vector<ContactRecord> found;
-    for (ContactRecord& contact : book->contacts) {
+    for (const ContactRecord& contact : book.contacts) {
         if (members.contains(contact.identifier))
-            found.push_back(std::move(contact));
+            found.push_back(contact);
     }
     return found;
 }
@@ -98,7 +113,7 @@ std::expected<std::vector<GroupRecord>, ContactsError> AddressBook::allGroups() 
     if (!book)
         return std::unexpected(book.error());
     std::vector<GroupRecord> groups;
-    for (const Group& group : book->groups)
+    for (const Group& group : (*book)->groups)
         groups.push_back(group.record);
     return groups;
 }

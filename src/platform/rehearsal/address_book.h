@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QJsonObject>
+#include <QByteArray>
+#include <memory>
+#include <vector>
 
 #include "contacts/contact_source.h"
 #include "platform/rehearsal/json_file.h"
@@ -33,9 +35,13 @@ class AddressBook final : public ContactSource {
         std::vector<Group> groups;
     };
 
-    [[nodiscard]] std::expected<Book, ContactsError> read() const;
+    [[nodiscard]] std::expected<Book, ContactsError> parse() const;
+    /// The book as the file has it now; parsed only when its bytes are others than last time.
+    [[nodiscard]] std::expected<std::shared_ptr<const Book>, ContactsError> read();
 
     QString path_;
+    QByteArray bytes_;
+    std::shared_ptr<const Book> book_;
 };
 
 }  // namespace velmora
