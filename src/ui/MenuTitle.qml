@@ -15,13 +15,13 @@ T.AbstractButton {
     readonly property bool open: opened === index
 
     signal wanted(int place)
-    signal left
+    signal dismissed
 
     implicitWidth: implicitContentWidth + 20
     text: modelData.title
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
-    onPressed: title.open ? title.left() : title.wanted(title.index)
+    onPressed: title.open ? title.dismissed() : title.wanted(title.index)
     onHoveredChanged: if (title.hovered && title.opened >= 0) title.wanted(title.index)
     Keys.onDownPressed: title.wanted(title.index)
     Keys.onReturnPressed: title.wanted(title.index)
@@ -52,7 +52,7 @@ T.AbstractButton {
         visible: title.open
         entries: title.modelData.entries
         closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
-        onClosed: title.left()
+        onClosed: title.dismissed()
         onChosen: index => title.commands.run(title.modelData.entries[index].command)
         onSideways: delta => title.wanted(title.index + delta)
     }

@@ -28,7 +28,7 @@ Rectangle {
                 opened: bar.opened
                 commands: bar.commands
                 onWanted: place => bar.opened = (place + titles.count) % titles.count
-                onLeft: if (bar.opened === index) bar.opened = -1
+                onDismissed: if (bar.opened === index) bar.opened = -1
             }
         }
     }
