@@ -1,7 +1,6 @@
 #include "app_home.h"
 
 namespace velmora {
-
 namespace {
 
 using List = AppHome;
@@ -149,5 +148,4 @@ TEST_F(List, TicksNotesAndTypingChangeOnlyWhatTheyTouch) {
 }
 
 }  // namespace
-
 }  // namespace velmora

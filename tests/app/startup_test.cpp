@@ -1,7 +1,6 @@
 #include "app_home.h"
 
 namespace velmora {
-
 namespace {
 
 using Startup = AppHome;
@@ -28,12 +27,29 @@ TEST_F(Startup, FirstStartChoosesWhatIsObviousAndKeepsIt) {
     EXPECT_EQ(stored().selectedGroupID, allContactsID);
 }
 
+// Catches a start that waits for ever or reads names when it may not, and a failure kept silent.
+TEST_F(Startup, WithoutAccessNothingIsLoadedAndAFailingReadIsTold) {
+    home.writeContacts(R"({"access": "denied", "contacts": [{"identifier": "ann"}]})");
+    started();
+    EXPECT_FALSE(model->contactsAllowed);
+    EXPECT_TRUE(model->groups.value().empty() && model->recipients().empty());
+    EXPECT_EQ(model->allContactsCount.value(), 0);
+    EXPECT_EQ(model->batchName.value(), QString());
+    EXPECT_EQ(stored().selectedGroupID, std::nullopt);
+    EXPECT_EQ(model->alert.value(), std::nullopt);
+    home.writeContacts("{");
+    model->loadGroups();
+    EXPECT_TRUE(model->alert.value().value().startsWith(u"Couldn't read your Contacts groups: "));
+}
+
 // Catches a number picked for the user among several, a chosen one replaced, and an alias twice.
 TEST_F(Startup, NumbersAreMergedAndChosenOnlyWhenThereIsNoChoice) {
     thread(u"+12125550101"_s, myLine);
     thread(u"+12125550102"_s, myOtherLine);
+    home.writeMessages(R"({"aliases": {"allAliases": ["+12125558888", "+1999", "me@a.com"]}})");
     started();
-    EXPECT_EQ(model->numbers.value(), (std::vector<NumberInfo>{{myLine, 2}, {myOtherLine, 1}}));
+    EXPECT_EQ(model->numbers.value(),
+              (std::vector<NumberInfo>{{myLine, 2}, {myOtherLine, 1}, {u"+1999"_s, 0}}));
     EXPECT_EQ(model->config().senderNumber, QString());
     EXPECT_FALSE(model->needsSenderSetup());
     model->acceptTerms();
@@ -108,5 +124,4 @@ TEST_F(Startup, TimesOfDayExistOnTheDayTheyAreShown) {
 }
 
 }  // namespace
-
 }  // namespace velmora

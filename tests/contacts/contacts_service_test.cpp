@@ -5,7 +5,6 @@
 #include <utility>
 
 namespace velmora {
-
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -49,9 +48,9 @@ class BookInMemory final : public ContactSource {
     }
 };
 
-ContactRecord personWith(std::vector<PhoneEntry> phones) {
+ContactRecord personWith(const std::vector<PhoneEntry>& phones) {
     ContactRecord person;
-    person.phoneNumbers = std::move(phones);
+    person.phoneNumbers = phones;
     return person;
 }
 
@@ -104,8 +103,7 @@ TEST(ContactsGroups, AreCountedAndSortedWhateverTheLetterCase) {
 }
 
 TEST(BestPhoneOfAPerson, IsTheFirstUsableOneOfTheHighestRank) {
-    const QString home = u"_$!<Home>!$_"_s;
-    const PhoneEntry atHome{home, u"(415) 555-0100"_s};
+    const PhoneEntry atHome{u"_$!<Home>!$_"_s, u"(415) 555-0100"_s};
     const PhoneEntry mobile{PhoneLabel::mobile, u"415 555 0101"_s};
     const PhoneEntry iPhone{PhoneLabel::iPhone, u"415 555 0102"_s};
     const PhoneEntry main{PhoneLabel::main, u"415 555 0103"_s};
@@ -113,29 +111,22 @@ TEST(BestPhoneOfAPerson, IsTheFirstUsableOneOfTheHighestRank) {
     const PhoneEntry shortMobile{PhoneLabel::mobile, u"41555"_s};
     const PhoneEntry custom{u"boat"_s, u"+44 7700 900 123"_s};
     const PhoneEntry bare{{}, u"1 415 555 0105"_s};
-    struct Case {
-        std::vector<PhoneEntry> card;
-        QString phone;
-        QString label;
-    };
-    const std::vector<Case> cases{
-        {{atHome, main, iPhone, mobile, secondMobile}, u"+14155550101"_s, PhoneLabel::mobile},
-        {{atHome, main, iPhone}, u"+14155550102"_s, PhoneLabel::iPhone},
-        {{custom, atHome, main}, u"+14155550103"_s, PhoneLabel::main},
-        {{atHome, shortMobile, custom}, u"+14155550100"_s, u"casa"_s},
-        {{custom, atHome}, u"+447700900123"_s, u"boat"_s},
-        {{bare, custom}, u"+14155550105"_s, QString()},
+    const std::vector<std::pair<std::vector<PhoneEntry>, QString>> cases{
+        {{atHome, main, iPhone, mobile, secondMobile}, u"+14155550101 "_s + PhoneLabel::mobile},
+        {{atHome, main, iPhone}, u"+14155550102 "_s + PhoneLabel::iPhone},
+        {{custom, atHome, main}, u"+14155550103 "_s + PhoneLabel::main},
+        {{atHome, shortMobile, custom}, u"+14155550100 casa"_s},
+        {{custom, atHome}, u"+447700900123 boat"_s},
+        {{bare, custom}, u"+14155550105 "_s},
     };
     BookInMemory book;
     const ContactsService service(book);
-    for (const Case& each : cases) {
-        const BestPhone best = service.bestPhone(personWith(each.card)).value_or(BestPhone());
-        EXPECT_EQ(best.phone, each.phone);
-        EXPECT_EQ(best.label, each.label);
+    for (const auto& [card, expected] : cases) {
+        const BestPhone best = service.bestPhone(personWith(card)).value_or(BestPhone());
+        EXPECT_EQ(best.phone + u' ' + best.label, expected);
     }
     EXPECT_FALSE(service.bestPhone(personWith({shortMobile})).has_value());
 }
 
 }  // namespace
-
 }  // namespace velmora

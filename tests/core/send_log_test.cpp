@@ -28,7 +28,7 @@ LogEntry entry(const QString& phone, const QString& status = u"sent"_s,
 
 class SendLogTest : public ::testing::Test {
   protected:
-    void put(const QByteArray& bytes) { home.put(log.logFile(u"Party"_s), bytes); }
+    void put(const QByteArray& bytes) { writeTestFile(log.logFile(u"Party"_s), bytes); }
     [[nodiscard]] QByteArray file() { return StorageHome::read(log.logFile(u"Party"_s)); }
     [[nodiscard]] QStringList phones() {
         QStringList result;
@@ -61,8 +61,6 @@ TEST_F(SendLogTest, AppendAndRewriteGiveTheDocumentedFile) {
     EXPECT_EQ(entries[1].time, Moment{763657200});
     EXPECT_NE(entries[0].id, entries[1].id);
     EXPECT_NE(entries[0].id, log.load(u"Party"_s)[0].id);
-    EXPECT_EQ(entries[0].id.version(), QUuid::Random);
-    EXPECT_EQ(entries[0].id.variant(), QUuid::DCE);
     log.rewrite(u"Party"_s, {});
     EXPECT_EQ(file(), header);
     EXPECT_TRUE(log.load(u"Party"_s).empty());
@@ -79,7 +77,7 @@ TEST_F(SendLogTest, AlreadySentCountsEveryStatusThatBeginsWithSent) {
     EXPECT_EQ(log.alreadySent(u"a/b"_s), QSet{u"+2"_s});
 }
 
-TEST_F(SendLogTest, RowsOfOtherWidthsAndTimes) {
+TEST_F(SendLogTest, OddRowsAndDamagedFilesAreReadAsFarAsTheyGo) {
     put("anything\n1,2,3,4,5,6,7\nyesterday,b,n,+1,s,l,sent,d,ninth\r\n"
         "2025-03-05T14:03:22+01:00,b,n,+2,s,l,sent,d");
     const auto entries = log.load(u"Party"_s);
@@ -88,9 +86,6 @@ TEST_F(SendLogTest, RowsOfOtherWidthsAndTimes) {
     EXPECT_EQ(entries[0].detail, u"d"_s);
     EXPECT_EQ(entries[1].time, Moment{762872602});
     EXPECT_EQ(entries[1].batch, u"b"_s);
-}
-
-TEST_F(SendLogTest, DamagedFilesAreReadAsFarAsTheyGo) {
     put(header + row + "sent,\xff\n");
     EXPECT_TRUE(log.load(u"Party"_s).empty());
     put(header + row + "sent,\n" + QByteArray("t,b,n,+2\0,s,l,sent,\0\n", 21) + row +
@@ -150,22 +145,23 @@ TEST(SafeFileStem, KeepsLettersMarksAndNumbersOfEveryScript) {
 }
 
 TEST(ParseCSV, FollowsEachRule) {
-    const auto parsed = [](const QString& text) {
+    const std::vector<std::pair<QString, QString>> cases = {
+        {u"a,b\r\nc,d\n"_s, u"a|b/c|d"_s},
+        {u"a\r\rb\rc,\r\n"_s, u"abc|"_s},
+        {u"\"a\r\nb\rc\",d"_s, u"a\r\nb\rc|d"_s},
+        {u"a\"b,\"\"c\"d"_s, u"ab,\"cd"_s},
+        {u"\"a\"\r\n\"b\"\rc\"\"\"\""_s, u"a/bc\""_s},
+        {u"\"a\",\"b\"x\"y\"\n"_s, u"a|bxy"_s},
+        {u"a,\"open\n,"_s, u"a|open\n,"_s},
+        {u"a\n\nb"_s, u"a//b"_s},
+        {u"a,"_s, u"a|"_s},
+    };
+    for (const auto& [text, expected] : cases) {
         QStringList rows;
         for (const QStringList& fields : parseCSV(text))
             rows += fields.join(u'|');
-        return rows.join(u'/');
-    };
-    EXPECT_EQ(parsed(u"a,b\r\nc,d\n"_s), u"a|b/c|d"_s);
-    EXPECT_EQ(parsed(u"a\r\rb\rc,\r\n"_s), u"abc|"_s);
-    EXPECT_EQ(parsed(u"\"a\r\nb\rc\",d"_s), u"a\r\nb\rc|d"_s);
-    EXPECT_EQ(parsed(u"a\"b,\"\"c\"d"_s), u"ab,\"c\"d"_s.replace(u"\"d"_s, u"d"_s));
-    EXPECT_EQ(parsed(u"\"a\"\r\n\"b\"\rc\"\"\"\""_s), u"a/bc\""_s);
-    EXPECT_EQ(parsed(u"\"a\",\"b\"x\"y\"\n"_s), u"a|bxy"_s);
-    EXPECT_EQ(parsed(u"a,\"open\n,"_s), u"a|open\n,"_s);
-    EXPECT_EQ(parsed(u"a\n\nb"_s), u"a//b"_s);
-    EXPECT_EQ(parseCSV(u"a\n\nb"_s)[1], QStringList{u""_s});
-    EXPECT_EQ(parseCSV(u"a,"_s), std::vector{QStringList({u"a"_s, u""_s})});
+        EXPECT_EQ(rows.join(u'/'), expected);
+    }
     for (const QString& text : {u""_s, u"\""_s, u"\"\""_s, u"\r"_s})
         EXPECT_TRUE(parseCSV(text).empty());
 }

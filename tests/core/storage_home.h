@@ -11,6 +11,7 @@
 
 #include "core/files.h"
 #include "core/support_folder.h"
+#include "support/rehearsal_home.h"
 
 namespace velmora {
 
@@ -21,18 +22,13 @@ struct StorageHome {
 
     StorageHome() { QFile::setPermissions(directory.path(), QFile::Permissions(0x7755)); }
 
-    void put(const QString& path, const QByteArray& bytes) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        ASSERT_EQ(file.write(bytes), bytes.size());
-    }
     [[nodiscard]] static QByteArray read(const QString& path) {
         return readFile(path).value_or("(unreadable)");
     }
     [[nodiscard]] static mode_t mode(const QString& path) {
         struct stat status{};
-        return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 0777
-                                                                         : 0;
+        ::stat(QFile::encodeName(path).constData(), &status);
+        return status.st_mode & 0777;
     }
 };
 

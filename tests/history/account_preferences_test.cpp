@@ -3,18 +3,15 @@
 #include <gtest/gtest.h>
 
 namespace velmora {
-
 namespace {
 
 using namespace Qt::StringLiterals;
 
-class StoredAliases final : public AccountPreferences {
-  public:
-    explicit StoredAliases(QVariant value) : value_(std::move(value)) {}
-    [[nodiscard]] QVariant aliases() const override { return value_; }
+struct StoredAliases final : AccountPreferences {
+    explicit StoredAliases(QVariant value) : value(std::move(value)) {}
+    [[nodiscard]] QVariant aliases() const override { return value; }
 
-  private:
-    QVariant value_;
+    QVariant value;
 };
 
 QStringList aliasesOf(const QVariant& selected, const QVariant& all) {
@@ -22,7 +19,7 @@ QStringList aliasesOf(const QVariant& selected, const QVariant& all) {
         StoredAliases(QVariantMap{{u"selectedAliases"_s, selected}, {u"allAliases"_s, all}}));
 }
 
-TEST(PhoneAliases, AreTheSelectedNumbersElseAllNumbers) {
+TEST(PhoneAliases, AreTheSelectedNumbersElseAllAndNoneWithoutAList) {
     const QStringList all{u"ann@example.com"_s, u"+1"_s, u"+2"_s};
     EXPECT_EQ(aliasesOf(QStringList{u"+2"_s, u"a@b.c"_s, u"+1"_s}, all),
               (QStringList{u"+2"_s, u"+1"_s}));
@@ -31,9 +28,6 @@ TEST(PhoneAliases, AreTheSelectedNumbersElseAllNumbers) {
     EXPECT_EQ(aliasesOf(QVariantList{u"+2"_s, 7}, all), all.sliced(1)) << "not only texts";
     EXPECT_EQ(aliasesOf(QVariantList{u"+2"_s}, QVariantList{u"+1"_s}), QStringList{u"+2"_s});
     EXPECT_EQ(aliasesOf({}, QStringList{u"ann@example.com"_s}), QStringList());
-}
-
-TEST(PhoneAliases, AreNoneWithoutAListOfAllAliases) {
     const QStringList selected{u"+2"_s};
     EXPECT_EQ(aliasesOf(selected, {}), QStringList());
     EXPECT_EQ(aliasesOf(selected, QVariantList{u"+1"_s, 7}), QStringList());
@@ -42,5 +36,4 @@ TEST(PhoneAliases, AreNoneWithoutAListOfAllAliases) {
 }
 
 }  // namespace
-
 }  // namespace velmora

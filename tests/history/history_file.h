@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "history/messages_db.h"
-#include "platform/rehearsal/history_writer.h"
+#include "support/rehearsal_home.h"
 
 namespace velmora {
 
@@ -30,11 +30,6 @@ class HistoryFile : public ::testing::Test {
         EXPECT_EQ(sqlite3_exec(db, sql, nullptr, nullptr, nullptr), SQLITE_OK)
             << sqlite3_errmsg(db);
         return {db, &sqlite3_close};
-    }
-    void overwrite(const QByteArray& bytes) {
-        QFile file(path());
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
     }
     [[nodiscard]] MessagesDB open() const { return MessagesDB::open(path()).value(); }
 

@@ -4,10 +4,10 @@
 
 #include <limits>
 
+#include "core/files.h"
 #include "history/history_file.h"
 
 namespace velmora {
-
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -45,9 +45,9 @@ TEST(HandleVariants, KeepTheirOrderAndDuplicates) {
 TEST_F(MessagesDBTest, SaysInASentenceWhyItCannotBeRead) {
     EXPECT_EQ(whyNotOpened(), u"Couldn't open Messages history: unable to open database file");
     EXPECT_FALSE(QFile::exists(path())) << "opening made a file";
-    overwrite("no database, but long enough to be looked at as if it were one");
+    writeTestFile(path(), "no database, but long enough to be looked at as if it were one");
     EXPECT_EQ(whyNotOpened(), u"Couldn't read Messages history: file is not a database");
-    overwrite("");
+    writeTestFile(path(), "");
     EXPECT_EQ(whyNotOpened(), u"Couldn't read Messages history: no such table: message");
     change("CREATE TABLE message (a)");
     EXPECT_EQ(whyNotOpened(), u"opened") << "no row is no failure";
@@ -77,12 +77,7 @@ TEST_F(MessagesDBTest, ReadsEachColumnByItsStorageAndAnyBytes) {
 
 TEST_F(MessagesDBTest, LeavesTheFileAsItWas) {
     record({.handle = annsPhone});
-    const auto bytes = [this] {
-        QFile file(path());
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    };
-    const QByteArray before = bytes();
+    const QByteArray before = readFile(path()).value();
     {
         MessagesDB history = open();
         EXPECT_TRUE(history.senderNumbers({0}).has_value());
@@ -91,7 +86,7 @@ TEST_F(MessagesDBTest, LeavesTheFileAsItWas) {
         EXPECT_EQ(history.query(u"DELETE FROM message"_s, {}).error().description(),
                   u"Couldn't read Messages history: attempt to write a readonly database");
     }
-    EXPECT_EQ(bytes(), before);
+    EXPECT_EQ(readFile(path()), before);
 }
 
 TEST_F(MessagesDBTest, SenderNumbersAreTheSixBusiestUsedInNinetyDays) {
@@ -156,5 +151,4 @@ TEST_F(MessagesDBTest, LastSentIsTheNewestFromMeSinceThen) {
 }
 
 }  // namespace
-
 }  // namespace velmora

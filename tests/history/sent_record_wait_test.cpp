@@ -8,7 +8,6 @@
 #include "support/virtual_surroundings.h"
 
 namespace velmora {
-
 namespace {
 
 class NoBackground final : public Background {
@@ -69,7 +68,7 @@ TEST_F(SentRecordWait, ForgetsWhatItSawWhenTheLastReadingFails) {
          {"", "truncated to a text that is no database, as a crash may leave it"}) {
         QFile::remove(path());
         record(pending);
-        world.clock.after(3, [this, rest] { overwrite(rest); });
+        world.clock.after(3, [this, rest] { writeTestFile(path(), rest); });
         EXPECT_FALSE(wait(5, 6).has_value()) << rest;
     }
 }
@@ -89,5 +88,4 @@ TEST_F(SentRecordWait, ReadsNothingWithoutTime) {
 }
 
 }  // namespace
-
 }  // namespace velmora

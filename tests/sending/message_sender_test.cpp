@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QRandomGenerator>
-#include <QStringList>
 
 #include "platform/rehearsal/script_parser.h"
 
@@ -11,9 +10,9 @@ namespace velmora {
 namespace {
 
 using namespace Qt::StringLiterals;
+using Outcome = ScriptResult::Outcome;
 
-class AnsweringScripts final : public ScriptRunner {
-  public:
+struct AnsweringScripts final : ScriptRunner {
     [[nodiscard]] ScriptResult run(const QString&) override { return answer; }
 
     ScriptResult answer;
@@ -34,20 +33,19 @@ TEST(MessageSender, WritesTheScriptThatMessagesKnows) {
 
 // Catches an error taken for a success, or told in other words than the platform's.
 TEST(MessageSender, TellsWhyATextCouldNotBeHandedOver) {
-    using Outcome = ScriptResult::Outcome;
     AnsweringScripts scripts;
     MessageSender sender(scripts);
-    const auto description = [&](Outcome outcome, const std::optional<QString>& message) {
-        scripts.answer = {outcome, message};
-        const auto sent = sender.send(u"+15550100123"_s, Service::iMessage, u"Hello"_s);
-        return sent ? u"sent"_s : sent.error().description;
+    const std::vector<std::pair<ScriptResult, QString>> answers = {
+        {{Outcome::success, {}}, u"sent"_s},
+        {{Outcome::notPrepared, {}}, u"Couldn't prepare the Messages script."_s},
+        {{Outcome::failure, {}}, u"Messages reported an error."_s},
+        {{Outcome::failure, u"Can't get participant."_s}, u"Can't get participant."_s},
     };
-    EXPECT_EQ(description(Outcome::success, std::nullopt), u"sent"_s);
-    EXPECT_EQ(description(Outcome::notPrepared, std::nullopt),
-              u"Couldn't prepare the Messages script."_s);
-    EXPECT_EQ(description(Outcome::failure, std::nullopt), u"Messages reported an error."_s);
-    EXPECT_EQ(description(Outcome::failure, u"Can't get participant."_s),
-              u"Can't get participant."_s);
+    for (const auto& [answer, description] : answers) {
+        scripts.answer = answer;
+        const auto sent = sender.send(u"+15550100123"_s, Service::iMessage, u"Hello"_s);
+        EXPECT_EQ(sent ? u"sent"_s : sent.error().description, description);
+    }
 }
 
 QString generatedText(QRandomGenerator& random) {
@@ -68,15 +66,14 @@ TEST(MessageSender, EveryTextIsReadBackAsItself) {
     for (int i = 0; i < 4000; ++i) {
         const QString text = generatedText(random);
         const QString phone = generatedText(random);
+        const Service service = i % 2 == 0 ? Service::iMessage : Service::sms;
         const QString literal = u'"' + escapedForScript(text) + u'"';
         const auto read = readStringLiteral(literal, 0);
-        ASSERT_TRUE(read) << qPrintable(text);
-        EXPECT_EQ(read->value, text);
-        EXPECT_EQ(read->end, literal.size());
-        const auto parsed = parseMessageScript(messageScript(phone, Service::sms, text));
+        ASSERT_TRUE(read && read->end == literal.size()) << qPrintable(text);
+        const auto parsed = parseMessageScript(messageScript(phone, service, text));
         ASSERT_TRUE(parsed) << qPrintable(text);
         EXPECT_EQ(parsed->phone, phone);
-        EXPECT_EQ(parsed->service, Service::sms);
+        EXPECT_EQ(parsed->service, service);
         EXPECT_EQ(parsed->text, text);
     }
 }

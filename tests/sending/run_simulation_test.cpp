@@ -1,4 +1,3 @@
-#include <array>
 #include <ctime>
 
 #include "sending/sending_world.h"
@@ -6,15 +5,12 @@
 namespace velmora {
 namespace {
 
-using State = Runner::State;
-
 constexpr int crowd = 60;
 
 /// A long run in a world of faults, whose user resumes every pause after a while.
-class Simulation : public SendingWorld {
-  public:
+struct Simulation : SendingWorld {
     Simulation() {
-        const std::array<QByteArray, 9> faults = {
+        const std::vector<QByteArray> faults = {
             R"({"iMessage": {"error": 22}})",
             R"({"error": 22})",
             R"({"scriptError": "Messages got an error: \"no, thanks\"."})",
@@ -28,7 +24,7 @@ class Simulation : public SendingWorld {
         std::map<QString, QByteArray> people;
         for (int n = 0; n < crowd; ++n) {
             if (const size_t kind = static_cast<size_t>(n) * 4 % 13; kind < faults.size())
-                people[phone(n)] = faults.at(kind);
+                people[phone(n)] = faults[kind];
         }
         messages(people);
         config.maxFailures = 2;
@@ -56,13 +52,11 @@ TEST(RunSimulation, ARunOf60WithEveryFaultIsTheSameTwice) {
     const std::clock_t before = std::clock();
     Simulation first;
     const QByteArray result = first.run();
-    const double seconds = static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
-    RecordProperty("processorMilliseconds", static_cast<int>(seconds * 1000));
-    EXPECT_LT(seconds, 5);
+    EXPECT_LT(std::clock() - before, 5 * CLOCKS_PER_SEC);
     EXPECT_EQ(first.runner->done, crowd);
-    EXPECT_TRUE(first.reasons.contains(u"Outside your sending hours"));
-    EXPECT_TRUE(first.reasons.contains(u"got it from (555) 010-0002"));
-    EXPECT_TRUE(first.reasons.contains(u"2 sends in a row failed"));
+    for (const QString& reason : {u"Outside your sending hours"_s, u"got it from (555) 010-0002"_s,
+                                  u"2 sends in a row failed"_s})
+        EXPECT_TRUE(first.reasons.contains(reason)) << qPrintable(reason);
     EXPECT_EQ(Simulation().run(), result);
 }
 

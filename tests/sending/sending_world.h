@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <memory>
 
+#include "core/files.h"
 #include "platform/rehearsal/messages_application.h"
 #include "sending/runner.h"
 #include "sending/send_outcome.h"
@@ -16,31 +16,26 @@ namespace velmora {
 using namespace Qt::StringLiterals;
 
 /// Passes scripts on to the rehearsal's Messages and counts them.
-class CountedScripts final : public ScriptRunner {
-  public:
-    explicit CountedScripts(ScriptRunner& messages) : messages_(messages) {}
-
+struct CountedScripts final : ScriptRunner {
+    explicit CountedScripts(ScriptRunner& messages) : messages(messages) {}
     [[nodiscard]] ScriptResult run(const QString& source) override {
         ++count;
-        return messages_.run(source);
+        return messages.run(source);
     }
 
     int count = 0;
-
-  private:
-    ScriptRunner& messages_;
+    ScriptRunner& messages;
 };
 
 /// Counts the activities that are held right now.
-class CountedActivities final : public ActivitySource {
-  public:
+struct CountedActivities final : ActivitySource {
+    struct Held final : Activity {
+        explicit Held(int& held) : held(held) { ++held; }
+        ~Held() override { --held; }
+        int& held;
+    };
     [[nodiscard]] std::unique_ptr<Activity> beginActivity(const QString& reason) override {
         EXPECT_EQ(reason, u"Sending your messages"_s);
-        struct Held final : Activity {
-            explicit Held(int& count) : count(count) { ++count; }
-            ~Held() override { --count; }
-            int& count;
-        };
         return std::make_unique<Held>(held);
     }
 
@@ -108,9 +103,7 @@ class SendingWorld {
     }
 
     [[nodiscard]] QByteArray file() {
-        QFile stored(sendLog.logFile(batch));
-        EXPECT_TRUE(stored.open(QIODevice::ReadOnly));
-        return stored.readAll();
+        return readFile(sendLog.logFile(batch)).value_or("(unreadable)");
     }
 
     /// The file that the displayed log would make.

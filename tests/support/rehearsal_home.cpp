@@ -12,6 +12,8 @@
 
 namespace velmora {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray jsonOf(const QJsonObject& object) {
@@ -26,24 +28,11 @@ QJsonObject objectOf(const QByteArray& json) {
 
 }  // namespace
 
-RehearsalHome::RehearsalHome() {
-    EXPECT_TRUE(folder_.isValid());
-}
-
-QString RehearsalHome::applicationSupport() const {
-    return folder_.filePath(QStringLiteral(".local/share"));
-}
-
-QString RehearsalHome::historyPath() const {
-    return folder_.filePath(QStringLiteral("Library/Messages/chat.db"));
-}
-
-void RehearsalHome::writeContacts(const QByteArray& json) {
-    write(QStringLiteral("Library/Contacts/contacts.json"), json);
-}
-
-void RehearsalHome::writeMessages(const QByteArray& json) {
-    write(QStringLiteral("Library/Messages/messages.json"), json);
+void writeTestFile(const QString& path, const QByteArray& bytes) {
+    EXPECT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    EXPECT_EQ(file.write(bytes), bytes.size());
 }
 
 HistoryWriter& RehearsalHome::history() {
@@ -62,25 +51,15 @@ qint64 RehearsalHome::record(const HistoryMessage& message, ChatStyle style) {
     return row.value_or(0);
 }
 
-void RehearsalHome::write(const QString& name, const QByteArray& bytes) {
-    const QString path = folder_.filePath(name);
-    EXPECT_TRUE(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    EXPECT_EQ(file.write(bytes), bytes.size());
-}
-
 QByteArray person(const QString& identifier, const QString& givenName, const QString& familyName,
                   const QString& phone, const QStringList& emailAddresses) {
-    QJsonObject object{
-        {QStringLiteral("identifier"), identifier},
-        {QStringLiteral("givenName"), givenName},
-        {QStringLiteral("familyName"), familyName},
-        {QStringLiteral("emailAddresses"), QJsonArray::fromStringList(emailAddresses)}};
+    QJsonObject object{{u"identifier"_s, identifier},
+                       {u"givenName"_s, givenName},
+                       {u"familyName"_s, familyName},
+                       {u"emailAddresses"_s, QJsonArray::fromStringList(emailAddresses)}};
     if (!phone.isEmpty()) {
-        const QJsonObject entry{{QStringLiteral("label"), QStringLiteral("_$!<Mobile>!$_")},
-                                {QStringLiteral("value"), phone}};
-        object.insert(QStringLiteral("phoneNumbers"), QJsonArray{entry});
+        const QJsonObject entry{{u"label"_s, u"_$!<Mobile>!$_"_s}, {u"value"_s, phone}};
+        object.insert(u"phoneNumbers"_s, QJsonArray{entry});
     }
     return jsonOf(object);
 }
@@ -92,19 +71,17 @@ QByteArray addressBook(const std::vector<QByteArray>& people,
         contacts.append(objectOf(each));
     QJsonArray groupObjects;
     for (const RehearsalGroup& group : groups)
-        groupObjects.append(
-            QJsonObject{{QStringLiteral("identifier"), group.identifier},
-                        {QStringLiteral("name"), group.name},
-                        {QStringLiteral("members"), QJsonArray::fromStringList(group.members)}});
-    return jsonOf(
-        {{QStringLiteral("contacts"), contacts}, {QStringLiteral("groups"), groupObjects}});
+        groupObjects.append(QJsonObject{{u"identifier"_s, group.identifier},
+                                        {u"name"_s, group.name},
+                                        {u"members"_s, QJsonArray::fromStringList(group.members)}});
+    return jsonOf({{u"contacts"_s, contacts}, {u"groups"_s, groupObjects}});
 }
 
 QByteArray messagesOnLine(const QString& line, const std::map<QString, QByteArray>& people) {
     QJsonObject settings;
     for (const auto& [phone, json] : people)
         settings.insert(phone, objectOf(json));
-    return jsonOf({{QStringLiteral("line"), line}, {QStringLiteral("people"), settings}});
+    return jsonOf({{u"line"_s, line}, {u"people"_s, settings}});
 }
 
 }  // namespace velmora

@@ -12,18 +12,26 @@
 
 namespace velmora {
 
+/// Makes the file hold these bytes, in folders that are made for it; fails the test otherwise.
+void writeTestFile(const QString& path, const QByteArray& bytes);
+
 /// A home folder of the test's own, with an address book, the settings of Messages and a history.
-/// Whatever cannot be written fails the test.
 class RehearsalHome {
   public:
-    RehearsalHome();
-
     [[nodiscard]] QString path() const { return folder_.path(); }
-    [[nodiscard]] QString applicationSupport() const;
-    [[nodiscard]] QString historyPath() const;
+    [[nodiscard]] QString applicationSupport() const {
+        return folder_.filePath(QStringLiteral(".local/share"));
+    }
+    [[nodiscard]] QString historyPath() const {
+        return folder_.filePath(QStringLiteral("Library/Messages/chat.db"));
+    }
 
-    void writeContacts(const QByteArray& json);
-    void writeMessages(const QByteArray& json);
+    void writeContacts(const QByteArray& json) {
+        writeTestFile(folder_.filePath(QStringLiteral("Library/Contacts/contacts.json")), json);
+    }
+    void writeMessages(const QByteArray& json) {
+        writeTestFile(folder_.filePath(QStringLiteral("Library/Messages/messages.json")), json);
+    }
 
     /// The history, made at the first call.
     [[nodiscard]] HistoryWriter& history();
@@ -32,8 +40,6 @@ class RehearsalHome {
     qint64 record(const HistoryMessage& message, ChatStyle style = ChatStyle::oneToOne);
 
   private:
-    void write(const QString& name, const QByteArray& bytes);
-
     QTemporaryDir folder_;
     std::optional<HistoryWriter> history_;
 };
