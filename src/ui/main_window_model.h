@@ -15,6 +15,7 @@ namespace velmora {
 /// of it is read from the application model at each look.
 class MainWindowModel final : public QObject {
     Q_OBJECT
+    Q_CLASSINFO("RegisterEnumClassesUnscoped", "false")
     QML_ELEMENT
     QML_UNCREATABLE("Belongs to the presentation")
     Q_PROPERTY(QString title READ title NOTIFY changed)

@@ -12,6 +12,7 @@ namespace velmora {
 /// The application's menus: what they hold and what each item does.
 class MenuCommands final : public QObject {
     Q_OBJECT
+    Q_CLASSINFO("RegisterEnumClassesUnscoped", "false")
     QML_ELEMENT
     QML_UNCREATABLE("Belongs to the presentation")
     Q_PROPERTY(QVariantList menus READ menus CONSTANT)

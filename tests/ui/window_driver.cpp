@@ -1,0 +1,141 @@
+#include "ui/window_driver.h"
+
+#include <QDeadlineTimer>
+#include <QGuiApplication>
+#include <QQuickItem>
+#include <QTest>
+
+namespace velmora {
+
+namespace {
+
+QStringList& heard() {
+    static QStringList messages;
+    return messages;
+}
+
+void hear(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    // The window system without a screen has no windows to raise or to hint at.
+    if (type != QtDebugMsg && type != QtInfoMsg &&
+        !message.startsWith(QLatin1String("This plugin does not support"))) {
+        heard().append(message);
+    }
+}
+
+QAccessibleInterface* findBelow(QAccessibleInterface* root, const QString& name) {
+    if (root == nullptr || root->state().invisible) {
+        return nullptr;
+    }
+    if (root->text(QAccessible::Name) == name && root->role() != QAccessible::Window) {
+        return root;
+    }
+    // The last child lies on top.
+    for (int child = root->childCount() - 1; child >= 0; --child) {
+        if (auto* found = findBelow(root->child(child), name)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+WindowDriver::WindowDriver(AppModel& model, VirtualClock& clock)
+    : WindowDriver(model, [&clock] { clock.advance(0.1); }, Motion::still) {}
+
+WindowDriver::WindowDriver(AppModel& model, std::function<void()> passTime, Motion motion)
+    : passTime_(std::move(passTime)), handlerBefore_(qInstallMessageHandler(hear)) {
+    heard().clear();
+    QAccessible::setActive(true);
+    main_ = std::make_unique<MainWindow>(model, nullptr, motion);
+    main_->show();
+    settle();
+}
+
+WindowDriver::~WindowDriver() {
+    main_.reset();
+    qInstallMessageHandler(handlerBefore_);
+}
+
+QStringList WindowDriver::complaints() const {
+    return heard();
+}
+
+void WindowDriver::settle() {
+    for (int turn = 0; turn < 5; ++turn) {
+        passTime_();
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+bool WindowDriver::until(const std::function<bool()>& condition) {
+    const QDeadlineTimer deadline(10000);
+    while (!condition() && !deadline.hasExpired()) {
+        settle();
+    }
+    return condition();
+}
+
+QAccessibleInterface* WindowDriver::find(const QString& name, QWindow* in) {
+    return findBelow(QAccessible::queryAccessibleInterface(in == nullptr ? &window() : in), name);
+}
+
+bool WindowDriver::shows(const QString& name, QWindow* in) {
+    return find(name, in) != nullptr;
+}
+
+QPoint WindowDriver::place(const QString& name) {
+    QAccessibleInterface* found = nullptr;
+    until([&] { return (found = find(name, nullptr)) != nullptr; });
+    return found == nullptr ? QPoint() : window().mapFromGlobal(found->rect().center());
+}
+
+bool WindowDriver::click(const QString& name) {
+    const QPoint at = place(name);
+    if (!at.isNull()) {
+        clickAt(at);
+    }
+    return !at.isNull();
+}
+
+void WindowDriver::clickAt(QPoint place) {
+    QTest::mouseMove(&window(), place);
+    QTest::mouseClick(&window(), Qt::LeftButton, {}, place);
+    settle();
+}
+
+void WindowDriver::type(const QString& text) {
+    for (const QChar each : text) {
+        QTest::sendKeyEvent(QTest::Click, QGuiApplication::focusWindow(), Qt::Key_unknown, each,
+                            {});
+    }
+    settle();
+}
+
+void WindowDriver::key(int key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(QGuiApplication::focusWindow(), static_cast<Qt::Key>(key), modifiers);
+    settle();
+}
+
+QString WindowDriver::focused() const {
+    auto* item = qobject_cast<QQuickItem*>(QGuiApplication::focusObject());
+    for (; item != nullptr; item = item->parentItem()) {
+        QAccessibleInterface* there = QAccessible::queryAccessibleInterface(item);
+        if (there != nullptr && !there->text(QAccessible::Name).isEmpty()) {
+            return there->text(QAccessible::Name);
+        }
+    }
+    return {};
+}
+
+QWindow* WindowDriver::windowTitled(const QString& title) {
+    for (QWindow* each : QGuiApplication::allWindows()) {
+        if (each->isVisible() && each->title() == title) {
+            return each;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace velmora

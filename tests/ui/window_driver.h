@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QAccessible>
+#include <QStringList>
+#include <functional>
+#include <memory>
+
+#include "app/app_model.h"
+#include "support/virtual_clock.h"
+#include "ui/main_window.h"
+
+namespace velmora {
+
+/// Uses the real main window as a person does: looks for things by what they are called, clicks
+/// and types. Whatever the views complain about meanwhile is kept.
+class WindowDriver {
+  public:
+    /// In virtual time, where nothing moves.
+    WindowDriver(AppModel& model, VirtualClock& clock);
+    /// In whatever time `passTime` lets go by.
+    WindowDriver(AppModel& model, std::function<void()> passTime, Motion motion);
+    ~WindowDriver();
+
+    [[nodiscard]] QQuickWindow& window() { return main_->window(); }
+    [[nodiscard]] QStringList complaints() const;
+
+    /// Lets everything happen that is due.
+    void settle();
+    /// Lets things happen until `condition` holds; false when it does not come to that.
+    bool until(const std::function<bool()>& condition);
+
+    /// Whether something of that name is on the screen, in the main window or `in` another.
+    [[nodiscard]] bool shows(const QString& name, QWindow* in = nullptr);
+    /// Clicks on what is called that; false when there is no such thing.
+    bool click(const QString& name);
+    /// Where the thing of that name is; null when there is none.
+    [[nodiscard]] QPoint place(const QString& name);
+    void clickAt(QPoint place);
+    /// Types ASCII characters.
+    void type(const QString& text);
+    void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// The name of what has the keyboard in the focused window, or of the nearest thing around it
+    /// that has a name.
+    [[nodiscard]] QString focused() const;
+    /// The open window of that title, or none.
+    [[nodiscard]] static QWindow* windowTitled(const QString& title);
+
+  private:
+    [[nodiscard]] QAccessibleInterface* find(const QString& name, QWindow* in);
+
+    std::function<void()> passTime_;
+    QtMessageHandler handlerBefore_;
+    std::unique_ptr<MainWindow> main_;
+};
+
+}  // namespace velmora

@@ -1,0 +1,149 @@
+#include <gmock/gmock.h>
+
+#include <QGuiApplication>
+
+#include "app/app_home.h"
+#include "ui/window_driver.h"
+
+namespace velmora {
+
+namespace {
+
+class WindowTest : public AppHome {
+  protected:
+    ~WindowTest() override {
+        if (driver) {
+            EXPECT_TRUE(driver->complaints().isEmpty())
+                << qPrintable(driver->complaints().join(u'\n'));
+        }
+    }
+
+    WindowDriver& show() {
+        driver = std::make_unique<WindowDriver>(model ? *model : open(), world.clock);
+        return *driver;
+    }
+
+    /// All that Tab reaches, by name, until it comes round.
+    QStringList tabStops() {
+        QStringList stops;
+        for (int turn = 0; turn < 60; ++turn) {
+            driver->key(Qt::Key_Tab);
+            if (const QString stop = driver->focused(); !stops.contains(stop))
+                stops.append(stop);
+        }
+        return stops;
+    }
+
+    std::unique_ptr<WindowDriver> driver;
+};
+
+const auto command = Qt::ControlModifier;
+
+// Catches a first-use sheet that can be passed by, by the pointer, by Tab or by a shortcut, one out
+// of its turn, and one that stays after it has been answered.
+TEST_F(WindowTest, FirstStartLeadsThroughItsSheets) {
+    thread(u"+12125550102"_s, myOtherLine);
+    ASSERT_TRUE(QFile::rename(home.historyPath(), home.historyPath() + u'~'));
+    WindowDriver& user = show();
+    ASSERT_TRUE(user.until([&] { return model->bootstrapped && user.shows(u"I Agree"_s); }));
+
+    user.clickAt(user.place(u"Friends, 3"_s));
+    EXPECT_EQ(model->config().selectedGroupID, allContactsID) << "clicked through the sheet";
+    user.key(Qt::Key_A, command | Qt::ShiftModifier);
+    EXPECT_TRUE(model->selection().isEmpty()) << "a shortcut reached under the sheet";
+    const QStringList termsStops = {u"Read the full terms of use"_s, u"Quit"_s, u"I Agree"_s};
+    EXPECT_THAT(tabStops(), ::testing::UnorderedElementsAreArray(termsStops));
+
+    EXPECT_TRUE(user.click(u"I Agree"_s));
+    EXPECT_TRUE(model->termsAccepted());
+    ASSERT_TRUE(user.until([&] { return user.shows(u"Not Now"_s) && !user.shows(u"I Agree"_s); }));
+    user.key(Qt::Key_Escape);
+    EXPECT_TRUE(user.until([&] { return !user.shows(u"Not Now"_s); }));
+    EXPECT_TRUE(user.click(u"Show Me How"_s));
+    ASSERT_TRUE(user.until([&] { return user.shows(u"Check Again"_s); }));
+    ASSERT_TRUE(QFile::rename(home.historyPath() + u'~', home.historyPath()));
+    EXPECT_TRUE(user.click(u"Check Again"_s));
+
+    ASSERT_TRUE(user.until([&] { return user.shows(u"Choose Later"_s); }));
+    EXPECT_TRUE(user.click(u"(212) 555-8888"_s));
+    EXPECT_EQ(model->config().senderNumber, myOtherLine);
+    EXPECT_TRUE(user.until([&] { return !user.shows(u"Choose Later"_s); }));
+}
+
+// Catches a sidebar that does not follow the pointer or the keyboard, and a title that stays
+// behind.
+TEST_F(WindowTest, SidebarChoosesByPointerAndKeyboard) {
+    started().acceptTerms();
+    WindowDriver& user = show();
+    EXPECT_TRUE(user.click(u"Friends, 3"_s));
+    EXPECT_EQ(model->config().selectedGroupID, u"friends"_s);
+    EXPECT_EQ(user.window().title(), u"Friends");
+    EXPECT_TRUE(user.shows(u"0 of 3 selected"_s));
+    user.key(Qt::Key_Up);
+    EXPECT_EQ(user.window().title(), u"All Contacts");
+    user.key(Qt::Key_End);
+    EXPECT_EQ(user.window().title(), u"Friends");
+}
+
+// Catches an alert that cannot be dismissed by a key, takes what lies under it along, or keeps the
+// keyboard.
+TEST_F(WindowTest, AlertLiesOverEverything) {
+    withFriends();
+    WindowDriver& user = show();
+    user.click(u"Friends, 3"_s);
+    user.key(Qt::Key_Return, command);
+    ASSERT_TRUE(user.until([&] { return user.shows(u"Select at least one person."_s); }));
+    EXPECT_EQ(tabStops(), QStringList(u"OK"_s));
+    user.key(Qt::Key_Return);
+    EXPECT_FALSE(model->alert.value().has_value());
+    EXPECT_TRUE(user.until([&] { return !user.shows(u"OK"_s); }));
+    user.key(Qt::Key_Up);
+    EXPECT_EQ(user.window().title(), u"All Contacts") << "the keyboard did not come back";
+
+    model->showingFDAHelp = true;
+    model->alert = u"Something else."_s;
+    ASSERT_TRUE(user.until([&] { return user.shows(u"OK"_s) && user.shows(u"Not Now"_s); }));
+    user.key(Qt::Key_Escape);
+    EXPECT_FALSE(model->alert.value().has_value());
+    EXPECT_TRUE(model->showingFDAHelp) << "one key closed both";
+    user.settle();
+    user.key(Qt::Key_Escape);
+    EXPECT_FALSE(model->showingFDAHelp);
+}
+
+// Catches a menu that does not open or does another's work, and a shortcut that two things claim.
+TEST_F(WindowTest, MenusAndShortcutsDoTheirWork) {
+    home.writeMessages(messagesOnLine(myOtherLine));
+    withFriends().setCurrentTemplate(u"Hello"_s);
+    model->setSenderNumber(myLine);
+    WindowDriver& user = show();
+    EXPECT_TRUE(user.click(u"People"_s));
+    EXPECT_TRUE(user.click(u"Select All"_s));
+    EXPECT_EQ(model->selection().size(), 3);
+
+    user.key(Qt::Key_Return, command);
+    ASSERT_TRUE(user.until([&] { return user.shows(u"Start Sending"_s); }));
+    user.key(Qt::Key_Return);
+    EXPECT_TRUE(user.until([&] { return model->runner().state == Runner::State::paused; }));
+    user.settle();
+    user.key(Qt::Key_Return, command);
+    EXPECT_EQ(model->runner().state.value(), Runner::State::running);
+}
+
+// Catches a settings window that opens twice, or keeps its keys from closing it.
+TEST_F(WindowTest, SettingsAreAWindowOfTheirOwn) {
+    withFriends();
+    WindowDriver& user = show();
+    user.key(Qt::Key_Comma, command);
+    ASSERT_TRUE(user.until([] { return WindowDriver::windowTitled(u"Settings"_s) != nullptr; }));
+    QWindow* settings = WindowDriver::windowTitled(u"Settings"_s);
+    EXPECT_TRUE(user.shows(u"Send Test"_s, settings));
+    ASSERT_TRUE(user.until([&] { return QGuiApplication::focusWindow() == settings; }));
+    user.key(Qt::Key_Escape);
+    EXPECT_FALSE(settings->isVisible());
+    EXPECT_TRUE(user.window().isVisible());
+}
+
+}  // namespace
+
+}  // namespace velmora
