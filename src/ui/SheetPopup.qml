@@ -54,12 +54,22 @@ T.Popup {
         }
     }
 
-    contentItem: Loader {
-        active: popup.visible
+    // A repeater of one: the toolkit lets no loader make a component that is bound to another file.
+    contentItem: FocusScope {
         focus: true
-        sourceComponent: popup.sheet
+        implicitWidth: holder.implicitWidth
+        implicitHeight: holder.implicitHeight
         transform: Translate {
             y: -popup.hidden * popup.height
+        }
+
+        Column {
+            id: holder
+
+            Repeater {
+                model: popup.visible ? 1 : 0
+                delegate: popup.sheet
+            }
         }
     }
 }

@@ -12,10 +12,22 @@ Rectangle {
 
     color: Theme.sidebarBackground
 
+    BodyText {
+        id: heading
+        x: 18
+        y: 10
+        height: 24
+        verticalAlignment: Text.AlignVCenter
+        text: "Lists"
+        color: Theme.secondary
+        font.pixelSize: Theme.caption
+        font.weight: Font.DemiBold
+        Accessible.role: Accessible.Heading
+    }
     ListView {
         id: list
         anchors.fill: parent
-        anchors.topMargin: 10
+        anchors.topMargin: heading.y + heading.height
         model: sidebar.model
         currentIndex: sidebar.model.currentRow
         highlightFollowsCurrentItem: false
@@ -38,16 +50,6 @@ Rectangle {
                 sidebar.model.choose(event.key === Qt.Key_Home ? 0 : sidebar.lastRow);
         }
 
-        header: BodyText {
-            x: 18
-            height: 24
-            verticalAlignment: Text.AlignVCenter
-            text: "Lists"
-            color: Theme.secondary
-            font.pixelSize: Theme.caption
-            font.weight: Font.DemiBold
-            Accessible.role: Accessible.Heading
-        }
         delegate: SidebarRow {
             width: list.width
             current: index === sidebar.model.currentRow

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QQuickItem>
 #include <QTest>
+#include <cstdio>
 
 namespace velmora {
 
@@ -15,6 +16,9 @@ QStringList& heard() {
 }
 
 void hear(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    if (type == QtFatalMsg) {
+        std::fputs(qPrintable(message + QLatin1Char('\n')), stderr);
+    }
     // The window system without a screen has no windows to raise or to hint at.
     if (type != QtDebugMsg && type != QtInfoMsg &&
         !message.startsWith(QLatin1String("This plugin does not support"))) {
@@ -49,6 +53,7 @@ WindowDriver::WindowDriver(AppModel& model, std::function<void()> passTime, Moti
     QAccessible::setActive(true);
     main_ = std::make_unique<MainWindow>(model, nullptr, motion);
     main_->show();
+    main_->window().requestActivate();
     settle();
 }
 
