@@ -11,6 +11,7 @@ T.AbstractButton {
     required property int index
     required property int opened
     required property MenuCommands commands
+    required property Item keyboardBefore
 
     readonly property bool open: opened === index
 
@@ -52,6 +53,8 @@ T.AbstractButton {
         visible: title.open
         entries: title.modelData.entries
         closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+        onAboutToShow: focusedBefore = title.keyboardBefore
+        onAboutToHide: if (title.opened >= 0 && !title.open) focusedBefore = null
         onClosed: title.dismissed()
         onChosen: index => title.commands.run(title.modelData.entries[index].command)
         onSideways: delta => title.wanted(title.index + delta)

@@ -10,6 +10,13 @@ Rectangle {
     required property MenuCommands commands
 
     property int opened: -1
+    property Item keyboardBefore: null
+
+    function open(place: int) {
+        if (opened < 0)
+            keyboardBefore = Window.activeFocusItem;
+        opened = place;
+    }
 
     implicitHeight: 28
     color: Theme.windowBackground
@@ -27,7 +34,8 @@ Rectangle {
                 height: bar.height - 1
                 opened: bar.opened
                 commands: bar.commands
-                onWanted: place => bar.opened = (place + titles.count) % titles.count
+                keyboardBefore: bar.keyboardBefore
+                onWanted: place => bar.open((place + titles.count) % titles.count)
                 onDismissed: if (bar.opened === index) bar.opened = -1
             }
         }

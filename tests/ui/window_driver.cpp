@@ -26,16 +26,19 @@ void hear(QtMsgType type, const QMessageLogContext&, const QString& message) {
     }
 }
 
-QAccessibleInterface* findBelow(QAccessibleInterface* root, const QString& name) {
+QAccessibleInterface* findBelow(QAccessibleInterface* root, const QString& name,
+                                QAccessible::Role role) {
     if (root == nullptr || root->state().invisible) {
         return nullptr;
     }
-    if (root->text(QAccessible::Name) == name && root->role() != QAccessible::Window) {
+    const bool fits =
+        role == QAccessible::NoRole ? root->role() != QAccessible::Window : root->role() == role;
+    if (fits && root->text(QAccessible::Name) == name) {
         return root;
     }
     // The last child lies on top.
     for (int child = root->childCount() - 1; child >= 0; --child) {
-        if (auto* found = findBelow(root->child(child), name)) {
+        if (auto* found = findBelow(root->child(child), name, role)) {
             return found;
         }
     }
@@ -82,22 +85,22 @@ bool WindowDriver::until(const std::function<bool()>& condition) {
     return condition();
 }
 
-QAccessibleInterface* WindowDriver::find(const QString& name, QWindow* in) {
-    return findBelow(QAccessible::queryAccessibleInterface(in == nullptr ? &window() : in), name);
-}
-
 bool WindowDriver::shows(const QString& name, QWindow* in) {
-    return find(name, in) != nullptr;
+    auto* root = QAccessible::queryAccessibleInterface(in == nullptr ? &window() : in);
+    return findBelow(root, name, QAccessible::NoRole) != nullptr;
 }
 
-QPoint WindowDriver::place(const QString& name) {
+QPoint WindowDriver::place(const QString& name, QAccessible::Role role) {
     QAccessibleInterface* found = nullptr;
-    until([&] { return (found = find(name, nullptr)) != nullptr; });
+    until([&] {
+        found = findBelow(QAccessible::queryAccessibleInterface(&window()), name, role);
+        return found != nullptr;
+    });
     return found == nullptr ? QPoint() : window().mapFromGlobal(found->rect().center());
 }
 
-bool WindowDriver::click(const QString& name) {
-    const QPoint at = place(name);
+bool WindowDriver::click(const QString& name, QAccessible::Role role) {
+    const QPoint at = place(name, role);
     if (!at.isNull()) {
         clickAt(at);
     }

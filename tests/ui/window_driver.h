@@ -31,10 +31,11 @@ class WindowDriver {
 
     /// Whether something of that name is on the screen, in the main window or `in` another.
     [[nodiscard]] bool shows(const QString& name, QWindow* in = nullptr);
-    /// Clicks on what is called that; false when there is no such thing.
-    bool click(const QString& name);
+    /// Clicks on what is called that, where `role` can tell it from another of its name; false when
+    /// there is no such thing.
+    bool click(const QString& name, QAccessible::Role role = QAccessible::NoRole);
     /// Where the thing of that name is; null when there is none.
-    [[nodiscard]] QPoint place(const QString& name);
+    [[nodiscard]] QPoint place(const QString& name, QAccessible::Role role = QAccessible::NoRole);
     void clickAt(QPoint place);
     /// Types ASCII characters.
     void type(const QString& text);
@@ -46,8 +47,6 @@ class WindowDriver {
     [[nodiscard]] static QWindow* windowTitled(const QString& title);
 
   private:
-    [[nodiscard]] QAccessibleInterface* find(const QString& name, QWindow* in);
-
     std::function<void()> passTime_;
     QtMessageHandler handlerBefore_;
     std::unique_ptr<MainWindow> main_;

@@ -117,9 +117,20 @@ TEST_F(WindowTest, MenusAndShortcutsDoTheirWork) {
     withFriends().setCurrentTemplate(u"Hello"_s);
     model->setSenderNumber(myLine);
     WindowDriver& user = show();
-    EXPECT_TRUE(user.click(u"People"_s));
-    EXPECT_TRUE(user.click(u"Select All"_s));
+    user.click(u"Friends, 3"_s);
+    EXPECT_TRUE(user.click(u"People"_s, QAccessible::ButtonMenu));
+    EXPECT_TRUE(user.click(u"Select All"_s, QAccessible::MenuItem));
     EXPECT_EQ(model->selection().size(), 3);
+    EXPECT_TRUE(user.click(u"Edit"_s, QAccessible::ButtonMenu));
+    user.key(Qt::Key_Right);
+    user.key(Qt::Key_Down);
+    user.key(Qt::Key_Down);
+    user.key(Qt::Key_Return);
+    EXPECT_EQ(model->selection().size(), 0) << "Clear Selection is the second of the next menu";
+    user.key(Qt::Key_Up);
+    EXPECT_EQ(user.window().title(), u"All Contacts") << "the keyboard did not come back";
+    user.key(Qt::Key_Down);
+    model->selectShown();
 
     user.key(Qt::Key_Return, command);
     ASSERT_TRUE(user.until([&] { return user.shows(u"Start Sending"_s); }));

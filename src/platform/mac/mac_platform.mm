@@ -6,8 +6,9 @@
 namespace velmora {
 
 Platform makePlatform(Clock&) {
-    // The hardened runtime forbids memory that is written and then run. The views hold bindings only,
-    // which gain nothing from being compiled, so they are interpreted and the right is not asked for.
+    // The hardened runtime forbids memory that is written and then run. The views hold bindings
+    // only, which gain nothing from being compiled, so they are interpreted and the right is not
+    // asked for.
     qputenv("QV4_FORCE_INTERPRETER", "1");
     Platform platform;
     platform.contacts = makeMacContactSource();

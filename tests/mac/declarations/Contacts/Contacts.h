@@ -1,5 +1,5 @@
-// Just the declarations of the platform's Contacts framework that src/platform/mac uses, written from its
-// public documentation.
+// Just the declarations of the platform's Contacts framework that src/platform/mac uses, written
+// from its public documentation.
 
 #pragma once
 
@@ -27,7 +27,7 @@ extern NSString *const CNContactEmailAddressesKey;
 @property(readonly) NSString *stringValue;
 @end
 
-@interface CNLabeledValue<ValueType : id<NSCopying>> : NSObject
+@interface CNLabeledValue<ValueType : id <NSCopying>> : NSObject
 @property(readonly) NSString *label;
 @property(readonly) ValueType value;
 + (NSString *)localizedStringForLabel:(NSString *)label;

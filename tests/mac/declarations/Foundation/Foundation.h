@@ -1,6 +1,6 @@
-// Just the declarations of the platform's Foundation and Core Foundation that src/platform/mac uses,
-// written from its public documentation, so that a compiler without the platform can check our files:
-// a selector, type or constant that is misspelt there is not found here.
+// Just the declarations of the platform's Foundation and Core Foundation that src/platform/mac
+// uses, written from its public documentation, so that a compiler without the platform can check
+// our files: a selector, type or constant that is misspelt there is not found here.
 
 #pragma once
 
@@ -26,7 +26,7 @@ NSRange NSMakeRange(NSUInteger location, NSUInteger length);
 @end
 
 __attribute__((objc_root_class))
-@interface NSObject <NSObject>
+@interface NSObject<NSObject>
 + (instancetype)alloc;
 + (Class)class;
 - (instancetype)init;
