@@ -3,8 +3,9 @@ import QtQuick
 import QtQuick.Templates as T
 import Velmora
 
-/// The title of one menu in the window's menu bar, with its menu.
-T.AbstractButton {
+/// The title of one menu in the window's menu bar, with its menu. A drag from the press on the title
+/// to an item chooses that item.
+Item {
     id: title
 
     required property var modelData
@@ -13,41 +14,62 @@ T.AbstractButton {
     required property MenuCommands commands
     required property Item keyboardBefore
 
+    readonly property string text: modelData.title
     readonly property bool open: opened === index
 
     signal wanted(int place)
     signal dismissed
 
-    implicitWidth: implicitContentWidth + 20
-    text: modelData.title
-    hoverEnabled: true
-    focusPolicy: Qt.TabFocus
-    onPressed: title.open ? title.dismissed() : title.wanted(title.index)
-    onHoveredChanged: if (title.hovered && title.opened >= 0) title.wanted(title.index)
+    implicitWidth: words.implicitWidth + 20
+    activeFocusOnTab: true
     Keys.onDownPressed: title.wanted(title.index)
     Keys.onReturnPressed: title.wanted(title.index)
     Keys.onSpacePressed: title.wanted(title.index)
     Accessible.role: Accessible.ButtonMenu
     Accessible.name: title.text
+    Accessible.focusable: true
     Accessible.onPressAction: title.wanted(title.index)
 
-    contentItem: BodyText {
-        text: title.text
-        font.weight: title.modelData.application ? Font.DemiBold : Font.Normal
-        horizontalAlignment: Text.AlignHCenter
-        verticalAlignment: Text.AlignVCenter
-        wrapMode: Text.NoWrap
-        Accessible.ignored: true
-    }
-    background: Rectangle {
+    Rectangle {
         anchors.fill: parent
         anchors.topMargin: 3
         anchors.bottomMargin: 3
         radius: 5
-        color: title.open || title.visualFocus ? Theme.quaternary : "transparent"
+        visible: title.open || title.activeFocus
+        color: Theme.quaternary
+    }
+    BodyText {
+        id: words
+        anchors.centerIn: parent
+        text: title.text
+        font.weight: title.modelData.application ? Font.DemiBold : Font.Normal
+        wrapMode: Text.NoWrap
+        Accessible.ignored: true
+    }
+
+    HoverHandler {
+        onHoveredChanged: if (hovered && title.opened >= 0) title.wanted(title.index)
+    }
+    PointHandler {
+        property bool dragged: false
+
+        acceptedButtons: Qt.LeftButton
+        onActiveChanged: {
+            if (active)
+                title.open ? title.dismissed() : title.wanted(title.index);
+            else if (dragged && menu.highlighted >= 0)
+                menu.pick(menu.highlighted);
+            dragged = false;
+        }
+        onPointChanged: {
+            dragged = active && (dragged || point.position.y > title.height);
+            if (dragged)
+                menu.track(point.scenePosition);
+        }
     }
 
     PopupMenu {
+        id: menu
         y: title.height + 2
         modal: false
         visible: title.open
