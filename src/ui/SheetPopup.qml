@@ -54,22 +54,9 @@ T.Popup {
         }
     }
 
-    // A repeater of one: the toolkit lets no loader make a component that is bound to another file.
-    contentItem: FocusScope {
-        focus: true
-        implicitWidth: holder.implicitWidth
-        implicitHeight: holder.implicitHeight
-        transform: Translate {
-            y: -popup.hidden * popup.height
-        }
-
-        Column {
-            id: holder
-
-            Repeater {
-                model: popup.visible ? 1 : 0
-                delegate: popup.sheet
-            }
-        }
+    contentItem: SheetStage {
+        sheet: popup.sheet
+        shown: popup.visible
+        lift: popup.hidden * popup.height
     }
 }

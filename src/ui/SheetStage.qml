@@ -1,0 +1,28 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+
+/// Holds one sheet while it is shown, as large as the sheet wants to be.
+FocusScope {
+    id: stage
+
+    required property Component sheet
+    required property bool shown
+    required property real lift
+
+    focus: true
+    implicitWidth: holder.implicitWidth
+    implicitHeight: holder.implicitHeight
+    transform: Translate {
+        y: -stage.lift
+    }
+
+    Column {
+        id: holder
+
+        // A repeater of one: no loader makes a component that is bound to another file.
+        Repeater {
+            model: stage.shown ? 1 : 0
+            delegate: stage.sheet
+        }
+    }
+}
