@@ -14,23 +14,23 @@ Item {
     readonly property int sidebarMinimum: 200
     readonly property int sidebarMaximum: Math.min(300, width - detailMinimum - composeWidth - 2)
     property int chosenSidebarWidth: 230
+    readonly property int sidebarWidth: Math.max(sidebarMinimum,
+                                                 Math.min(sidebarMaximum, chosenSidebarWidth))
 
     RowLayout {
         anchors.fill: parent
         spacing: 0
 
         SidebarView {
-            id: sidebar
             Layout.fillHeight: true
-            Layout.preferredWidth: Math.max(content.sidebarMinimum,
-                                            Math.min(content.sidebarMaximum,
-                                                     content.chosenSidebarWidth))
+            Layout.preferredWidth: content.sidebarWidth
+            Layout.minimumWidth: content.sidebarWidth
             model: content.presentation.sidebar
         }
         SplitHandle {
             Layout.fillHeight: true
             z: 1
-            value: sidebar.width
+            value: content.sidebarWidth
             from: content.sidebarMinimum
             to: content.sidebarMaximum
             onMoved: value => content.chosenSidebarWidth = value

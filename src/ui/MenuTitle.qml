@@ -21,13 +21,8 @@ Item {
     signal dismissed
 
     implicitWidth: words.implicitWidth + 20
-    activeFocusOnTab: true
-    Keys.onDownPressed: title.wanted(title.index)
-    Keys.onReturnPressed: title.wanted(title.index)
-    Keys.onSpacePressed: title.wanted(title.index)
     Accessible.role: Accessible.ButtonMenu
     Accessible.name: title.text
-    Accessible.focusable: true
     Accessible.onPressAction: title.wanted(title.index)
 
     Rectangle {
@@ -35,7 +30,7 @@ Item {
         anchors.topMargin: 3
         anchors.bottomMargin: 3
         radius: 5
-        visible: title.open || title.activeFocus
+        visible: title.open
         color: Theme.quaternary
     }
     BodyText {

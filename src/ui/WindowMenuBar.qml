@@ -22,6 +22,10 @@ Rectangle {
     color: Theme.windowBackground
     Accessible.role: Accessible.MenuBar
 
+    Shortcut {
+        sequence: "F10"
+        onActivated: bar.open(0)
+    }
     Row {
         x: 6
         height: parent.height - 1
