@@ -1,7 +1,7 @@
 // Draws the application's icon at every size that a Mac's icon set holds: icon_set <folder>.
 
+#include <QCoreApplication>
 #include <QDir>
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -24,8 +24,8 @@ QImage drawn(int pixels) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const QGuiApplication application(argc, argv);
-    const QStringList arguments = QGuiApplication::arguments();
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() != 2 || !QDir().mkpath(arguments[1])) {
         std::fputs("Name a folder that the icons can be written to.\n", stderr);
         return 2;
