@@ -54,6 +54,9 @@ T.Popup {
         }
     }
 
+    background: SheetShadow {
+        opacity: 1 - popup.hidden
+    }
     contentItem: SheetStage {
         sheet: popup.sheet
         shown: popup.visible
