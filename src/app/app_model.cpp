@@ -2,6 +2,7 @@
 
 #include <QLocale>
 #include <algorithm>
+#include <utility>
 
 #include "app/recipient_check.h"
 
@@ -22,12 +23,10 @@ AppModel::AppModel(Doors doors, Surroundings surroundings, Places places)
 AppModel::~AppModel() = default;
 
 void AppModel::setConfig(const AppConfig& config) {
-    const AppConfig previous = config_;
-    const AppConfig assigned = config;
-    config_ = assigned;
+    const AppConfig previous = std::exchange(config_, AppConfig(config));
     Q_EMIT configChanged();
     // An observer may have stored yet another record by now: the newest is the one to keep.
-    if (assigned != previous)
+    if (config_ != previous)
         configStore_.save(config_);
 }
 

@@ -104,6 +104,8 @@ bool AppModel::isQueued(const Recipient& recipient) const {
 }
 
 QCoro::Task<> AppModel::sendTest() {
+    if (runner_.isActive())
+        co_return;
     const QPointer<AppModel> self(this);
     const std::optional<QString> phone = normalizePhone(testPhone);
     if (!phone) {

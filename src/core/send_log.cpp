@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 
 #include "core/csv.h"
 #include "core/files.h"
@@ -21,15 +22,31 @@ const QString& headerLine() {
     return text;
 }
 
-// What ends a last line that was cut off in the middle, such as by a loss of power, so that the
-// next line does not become a part of it.
-QByteArray endOfTornLine(const QString& path) {
+bool isTorn(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() == 0 || !file.seek(file.size() - 1) ||
-        file.read(1) == "\n" || !file.seek(0))
-        return {};
-    const bool isQuoteOpen = file.readAll().count('"') % 2 != 0;
-    return isQuoteOpen ? "\"\n" : "\n";
+    return file.open(QIODevice::ReadOnly) && file.size() > 0 && file.seek(file.size() - 1) &&
+           file.read(1) != "\n";
+}
+
+// The bytes without a last character of which only the first part is there.
+QByteArray withoutHalfCharacter(const QByteArray& bytes) {
+    const auto isContinuation = [](char byte) { return (byte & 0xC0) == 0x80; };
+    qsizetype start = bytes.size();
+    while (start > 0 && isContinuation(bytes[start - 1]))
+        --start;
+    const bool isWhole = bytes.sliced(std::max<qsizetype>(start - 1, 0)).isValidUtf8();
+    return isWhole || start == 0 ? bytes : bytes.first(start - 1);
+}
+
+// Ends a last line that was cut off in the middle, such as by a loss of power: the next line must
+// not become a part of it, and half a character would make the whole file unreadable.
+void endTornLine(const QString& path) {
+    const auto bytes = readFile(path);
+    if (!bytes)
+        return;
+    const QByteArray kept = withoutHalfCharacter(*bytes);
+    const bool isQuoteOpen = kept.count('"') % 2 != 0;
+    static_cast<void>(replaceFile(path, kept + (isQuoteOpen ? "\"\n" : "\n")));
 }
 
 // Calls `take` with the reader at each row of the file that is an entry.
@@ -70,9 +87,11 @@ LogEntry entryOf(const CSVReader& row, const LogEntry& previous) {
 void SendLog::append(const LogEntry& entry) {
     const QString path = logFile(entry.batch);
     const QByteArray line = csvLine(entry).toUtf8();
+    if (isTorn(path))
+        endTornLine(path);
     // An empty file needs the header, too: its first line is skipped when it is read.
     const bool isEmpty = QFileInfo(path).size() == 0;
-    const QByteArray bytes = (isEmpty ? headerLine().toUtf8() : endOfTornLine(path)) + line;
+    const QByteArray bytes = (isEmpty ? headerLine().toUtf8() : QByteArray()) + line;
     const auto done = QFile::exists(path) ? appendToFile(path, bytes) : replaceFile(path, bytes);
     static_cast<void>(done);
 }

@@ -1,6 +1,7 @@
 #include "core/support_folder.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <utility>
 
@@ -9,6 +10,16 @@
 using namespace Qt::StringLiterals;
 
 namespace velmora {
+
+namespace {
+
+// A folder of an older version may be open to others; what it holds is not for them.
+void makePrivate(const QString& folder) {
+    static_cast<void>(createPrivateFolder(folder));
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+}  // namespace
 
 SupportFolder::SupportFolder(QString applicationSupport)
     : applicationSupport_(std::move(applicationSupport)) {}
@@ -20,7 +31,7 @@ const QString& SupportFolder::path() {
     const QString older = applicationSupport_ + u"/Kestrune"_s;
     if (QFileInfo(older).isDir() && !QFileInfo::exists(path_))
         QDir().rename(older, path_);
-    static_cast<void>(createPrivateFolder(path_));
+    makePrivate(path_);
     return path_;
 }
 
@@ -28,7 +39,7 @@ const QString& SupportFolder::logs() {
     if (!logs_.isEmpty())
         return logs_;
     logs_ = path() + u"/logs"_s;
-    static_cast<void>(createPrivateFolder(logs_));
+    makePrivate(logs_);
     return logs_;
 }
 

@@ -49,6 +49,9 @@ class Runner::Pause {
 Runner::Runner(Tools tools) : tools_(std::move(tools)) {}
 
 Runner::~Runner() {
+    // Messages has the text, whatever the history says later: nobody may get it again.
+    if (inHand_)
+        tools_.sendLog.append(*inHand_);
     life_.reset();
     if (resumeContinuation_)
         resumeContinuation_->abandon();
@@ -112,8 +115,11 @@ void Runner::endPause(bool goOn) {
 }
 
 QCoro::Task<> Runner::run(std::vector<Item> queue) {
-    co_await sleep(0);
-    for (size_t i = 0; i < queue.size() && !stopRequested_; ++i) {
+    for (size_t i = 0; i < queue.size(); ++i) {
+        // Whatever the settings, the window gets a turn between two texts, and so does Stop.
+        co_await sleep(0);
+        if (stopRequested_)
+            break;
         const bool goOn = co_await handleItem(queue[i]);
         if (!goOn || i + 1 == queue.size())
             break;
@@ -135,6 +141,7 @@ QCoro::Task<bool> Runner::handleItem(Item item) {
     current = item.name;
     const LogEntry entry = co_await sendOne(item);
     tools_.sendLog.append(entry);
+    inHand_.reset();
     log_.push_back(entry);
     Q_EMIT logAppended();
     done = done + 1;

@@ -159,6 +159,8 @@ class Runner final : public QObject {
     bool stopRequested_ = false;
     Pause* resumeContinuation_ = nullptr;
     std::unique_ptr<Activity> activity_;
+    // The line of a text that Messages has and the log does not have yet.
+    std::optional<LogEntry> inHand_;
     std::vector<Pending> pending_;
     std::vector<LogEntry> log_;
     qint64 failures_ = 0;

@@ -44,11 +44,17 @@ QCoro::Task<Runner::Attempt> Runner::attempt(Item item, Service service, QString
     const std::weak_ptr<Life> life = life_;
     const qint64 since = historyTimestamp(clock().now());
     const auto handed = tools_.sender.send(item.phone, service, item.text);
+    unwindWithout(life);
     Attempt result;
     if (!handed) {
         result.entry = newEntry(item);
         describeRefusal(result.entry, label, handed.error());
         co_return result;
+    }
+    // A fallback for a line that is in the log already needs no second one.
+    if (current.value()) {
+        inHand_ = newEntry(item);
+        describeOutcome(*inHand_, label, std::nullopt);
     }
     result.record = co_await waitForSentRecord(tools_.surroundings, tools_.historyPath, item.phone,
                                                since, config_.verifyWait);

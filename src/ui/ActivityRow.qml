@@ -37,11 +37,11 @@ Item {
         id: words
         anchors.verticalCenter: parent.verticalCenter
         x: icon.x + icon.width + 8
-        width: time.x - x - 8
+        width: row.width - x - 10
         spacing: 2
 
         BodyText {
-            width: parent.width
+            width: time.x - words.x - 8
             text: row.name
         }
         BodyText {

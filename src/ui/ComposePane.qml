@@ -42,6 +42,7 @@ Item {
                 id: message
                 Layout.fillWidth: true
                 model: pane.model
+                steady: pane.model.showsActivity
             }
             ColumnLayout {
                 Layout.fillWidth: true

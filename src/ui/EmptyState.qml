@@ -4,7 +4,7 @@ import Velmora
 /// What a column shows when it has nothing to show: a symbol, a heading, a sentence and at most one
 /// button.
 Item {
-    id: state
+    id: empty
 
     required property string icon
     required property string title
@@ -20,7 +20,7 @@ Item {
 
         SymbolIcon {
             anchors.horizontalCenter: parent.horizontalCenter
-            name: state.icon
+            name: empty.icon
             size: 42
             light: true
             color: Theme.tertiary
@@ -28,7 +28,7 @@ Item {
         BodyText {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
-            text: state.title
+            text: empty.title
             font.pixelSize: Theme.title3
             font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading
@@ -37,18 +37,17 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             width: Math.min(340, parent.width)
             horizontalAlignment: Text.AlignHCenter
-            text: state.message
+            text: empty.message
             color: Theme.secondary
             font.pixelSize: Theme.callout
         }
         PushButton {
             anchors.horizontalCenter: parent.horizontalCenter
-            visible: state.button.length > 0
+            visible: empty.button.length > 0
             topInset: 2
-            topPadding: topInset
             implicitHeight: faceHeight + topInset
-            text: state.button
-            onClicked: state.activated()
+            text: empty.button
+            onClicked: empty.activated()
         }
     }
 }

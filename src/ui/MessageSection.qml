@@ -8,6 +8,8 @@ ColumnLayout {
 
     required property ComposeModel model
 
+    /// Whether the editor keeps the height it would like, and leaves all other room to the rest.
+    property bool steady: false
     /// By how much the section can be lower than it would like.
     readonly property int spare: 200 - 140
 
@@ -24,10 +26,11 @@ ColumnLayout {
         Layout.fillHeight: true
         Layout.minimumHeight: 140
         Layout.preferredHeight: 200
-        Layout.maximumHeight: 280
+        Layout.maximumHeight: section.steady ? 200 : 280
         enabled: !section.model.locked
         accessibleName: "Message"
         text: section.model.message
+        subject: section.model.subject
         onEdited: text => section.model.setMessage(text)
     }
     RowLayout {

@@ -62,7 +62,7 @@ FocusScope {
 
     BodyText {
         id: headingText
-        x: 18
+        x: Theme.padding
         width: row.width - 2 * x
         topPadding: 14
         bottomPadding: 6
@@ -92,7 +92,7 @@ FocusScope {
                                      && !passage.activeFocus
     }
     HorizontalDivider {
-        anchors.bottom: parent.bottom
+        visible: row.index > 0 && !headingText.visible
         x: words.x + content.x
         width: row.width - x - content.anchors.rightMargin
     }
@@ -103,8 +103,8 @@ FocusScope {
         readonly property real headingHeight: headingText.visible ? headingText.implicitHeight : 0
 
         anchors.fill: parent
-        anchors.leftMargin: 18
-        anchors.rightMargin: 18
+        anchors.leftMargin: Theme.padding
+        anchors.rightMargin: Theme.padding
         anchors.topMargin: 5 + headingHeight
         opacity: row.rowOpacity
 

@@ -12,7 +12,10 @@ ListView {
 
     function goTo(row: int) {
         currentIndex = Math.max(0, Math.min(count - 1, row));
-        positionViewAtIndex(currentIndex, ListView.Contain);
+        if (currentIndex === 0)
+            positionViewAtBeginning();
+        else
+            positionViewAtIndex(currentIndex, ListView.Contain);
     }
     function enterNote(): bool {
         const row = currentItem as RecipientRow;
@@ -26,7 +29,6 @@ ListView {
     clip: true
     reuseItems: true
     cacheBuffer: 200
-    topMargin: 6
     bottomMargin: 10
     boundsBehavior: Flickable.StopAtBounds
     highlightFollowsCurrentItem: false
@@ -59,6 +61,10 @@ ListView {
     onContentYChanged: recipients.topRow = indexAt(width / 2, contentY + 1)
     onRevisionChanged: if (recipients.topRow <= 0) positionViewAtBeginning()
 
+    header: Item {
+        width: 1
+        height: 6
+    }
     delegate: RecipientRow {
         width: list.width
         recipients: list.recipients

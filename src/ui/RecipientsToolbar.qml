@@ -12,10 +12,26 @@ Item {
     implicitHeight: grid.implicitHeight + 16
     enabled: model.enabled
 
+    // The longest titles of the buttons: typing a search never moves them to another line.
+    component TitleWidth: TextMetrics {
+        font.family: Theme.fontFamily
+        font.pixelSize: Theme.caption
+    }
+    TitleWidth {
+        id: selectWidth
+        text: "Select Shown"
+    }
+    TitleWidth {
+        id: clearWidth
+        text: "Clear Shown"
+    }
+
     GridLayout {
         id: grid
 
-        readonly property real oneLine: 150 + 120 + buttons.implicitWidth + 2 * columnSpacing
+        readonly property real oneLine: 150 + 120 + Math.ceil(selectWidth.advanceWidth)
+                                        + Math.ceil(clearWidth.advanceWidth)
+                                        + 2 * buttons.spacing + 2 * columnSpacing
 
         anchors.left: parent.left
         anchors.right: parent.right
@@ -44,6 +60,7 @@ Item {
         }
         RowLayout {
             id: buttons
+            Layout.columnSpan: grid.columns === 2 ? 2 : 1
             spacing: 8
 
             PushButton {

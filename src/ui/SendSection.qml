@@ -43,6 +43,7 @@ ColumnLayout {
 
         PushButton {
             Layout.fillWidth: true
+            Layout.preferredWidth: 1
             kind: PushButton.Destructive
             controlSize: PushButton.Large
             text: "Stop"
@@ -50,6 +51,7 @@ ColumnLayout {
         }
         PushButton {
             Layout.fillWidth: true
+            Layout.preferredWidth: 1
             visible: section.paused
             kind: PushButton.Prominent
             controlSize: PushButton.Large

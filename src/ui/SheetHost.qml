@@ -29,7 +29,7 @@ Item {
         }
     }
     HostedSheet {
-        shown: host.window.sheet === MainWindowModel.Sheet.fullDiskAccess
+        shown: host.window.sheet === MainWindowModel.Sheet.fullDiskAccessHelp
         sheet: FullDiskAccessHelpSheet {
             firstRun: host.presentation.firstRun
         }

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import QtQuick.Templates as T
 import Velmora
 
 /// The lists to choose from.
@@ -41,6 +42,7 @@ Rectangle {
         onCurrentIndexChanged: positionViewAtIndex(currentIndex, ListView.Contain)
         Accessible.role: Accessible.List
         Accessible.name: "Lists"
+        T.ScrollBar.vertical: SlimScrollBar {}
         Keys.onUpPressed: sidebar.model.choose(Math.max(0, sidebar.model.currentRow - 1))
         Keys.onDownPressed: sidebar.model.choose(Math.min(sidebar.lastRow,
                                                           sidebar.model.currentRow + 1))

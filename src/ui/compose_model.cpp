@@ -30,7 +30,7 @@ const std::array<Snippet, 4>& snippets() {
 }  // namespace
 
 ComposeModel::ComposeModel(AppModel& model)
-    : model_(model), senderNumber_(model.config().senderNumber) {
+    : model_(model), senderNumber_(model.config().senderNumber), subject_(subject()) {
     connect(&model_, &AppModel::configChanged, this, &ComposeModel::followConfig);
     connect(&model_, &AppModel::contactsAllowedChanged, this, &ComposeModel::messageChanged);
     connect(&model_, &AppModel::numbersChanged, this, &ComposeModel::senderChanged);
@@ -47,6 +47,8 @@ ComposeModel::ComposeModel(AppModel& model)
 
 void ComposeModel::followConfig() {
     Q_EMIT messageChanged();
+    if (std::exchange(subject_, subject()) != subject())
+        Q_EMIT subjectChanged();
     if (std::exchange(senderNumber_, model_.config().senderNumber) != model_.config().senderNumber)
         Q_EMIT senderChanged();
 }
@@ -57,6 +59,10 @@ bool ComposeModel::showsComposer() const {
 
 QString ComposeModel::message() const {
     return model_.currentTemplate();
+}
+
+QString ComposeModel::subject() const {
+    return model_.config().selectedGroupID.value_or(QString());
 }
 
 QString ComposeModel::hint() const {

@@ -16,6 +16,7 @@ class ComposeModel final : public QObject {
     QML_UNCREATABLE("Belongs to the presentation")
     Q_PROPERTY(bool showsComposer READ showsComposer NOTIFY messageChanged)
     Q_PROPERTY(QString message READ message NOTIFY messageChanged)
+    Q_PROPERTY(QString subject READ subject NOTIFY subjectChanged)
     Q_PROPERTY(QString hint READ hint NOTIFY messageChanged)
     Q_PROPERTY(QVariantList insertEntries READ insertEntries CONSTANT)
     Q_PROPERTY(QString senderTitle READ senderTitle NOTIFY senderChanged)
@@ -40,6 +41,9 @@ class ComposeModel final : public QObject {
     /// Whether there is a list to write to; else the column says so.
     [[nodiscard]] bool showsComposer() const;
     [[nodiscard]] QString message() const;
+    /// What the message belongs to: the chosen list, empty without one. It is announced after the
+    /// message.
+    [[nodiscard]] QString subject() const;
     [[nodiscard]] QString hint() const;
     /// Entries for a menu button; `insert` takes the chosen one's place.
     [[nodiscard]] static QVariantList insertEntries();
@@ -69,6 +73,7 @@ class ComposeModel final : public QObject {
 
   Q_SIGNALS:
     void messageChanged();
+    void subjectChanged();
     void senderChanged();
     void stageChanged();
     void sendChanged();
@@ -79,7 +84,8 @@ class ComposeModel final : public QObject {
     void followConfig();
 
     AppModel& model_;
-    QString senderNumber_;  // what the views were last told
+    QString senderNumber_;  // what the views were last told, as is the subject
+    QString subject_;
 };
 
 }  // namespace velmora

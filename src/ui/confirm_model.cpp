@@ -49,7 +49,8 @@ void ConfirmModel::cancel() {
 }
 
 void ConfirmModel::startSending() {
-    model_.confirmRun();
+    if (model_.confirmingRun)
+        model_.confirmRun();
 }
 
 }  // namespace velmora

@@ -146,7 +146,7 @@ MainWindowModel::Sheet MainWindowModel::sheet() const {
         return Sheet::confirm;
     }
     if (model_.needsFDAHelp()) {
-        return Sheet::fullDiskAccess;
+        return Sheet::fullDiskAccessHelp;
     }
     return model_.needsSenderSetup() ? Sheet::senderSetup : Sheet::none;
 }

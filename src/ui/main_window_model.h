@@ -40,7 +40,7 @@ class MainWindowModel final : public QObject {
     Q_ENUM(Banner)
 
     /// The sheets that can cover the window; at most one at a time.
-    enum class Sheet { none, terms, confirm, fullDiskAccess, senderSetup };
+    enum class Sheet { none, terms, confirm, fullDiskAccessHelp, senderSetup };
     Q_ENUM(Sheet)
 
     explicit MainWindowModel(AppModel& model);

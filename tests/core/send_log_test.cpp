@@ -96,8 +96,8 @@ TEST_F(SendLogTest, OddRowsAndDamagedFilesAreReadAsFarAsTheyGo) {
 // After a loss of power the next person's line would become a part of the torn one, and that person
 // be texted again.
 TEST_F(SendLogTest, ATornLastLineSwallowsNoOther) {
-    for (const QByteArray& torn :
-         {row, row + "sent,\"half a det", row + "sent,\"a \"", row.left(9)}) {
+    for (const QByteArray& torn : {row, row + "sent,\"half a det", row + "sent,\"a \"", row.left(9),
+                                   row + "sent,Chlo\xc3"}) {
         put(header + row + "sent,\n" + torn);
         log.append(entry(u"+3"_s));
         EXPECT_TRUE(log.alreadySent(u"Party"_s).contains(u"+3"_s)) << torn.constData();

@@ -146,6 +146,7 @@ TEST_P(RunnerEndTest, NothingGoesOnWithoutTheRunner) {
     const int before = scripts.count;
     runner.reset();
     EXPECT_EQ(activities.held, 0);
+    EXPECT_EQ(file().contains(phone(0).toUtf8()), before > 0) << "could be texted again";
     settle();
     EXPECT_EQ(scripts.count, before);
 }

@@ -4,11 +4,13 @@ import QtQuick.Templates as T
 import Velmora
 
 /// Several lines of plain text to type in. It scrolls, and Tab leaves it. Text that is added from
-/// outside keeps the caret and what can be undone.
+/// outside keeps the caret and what can be undone; another subject's text begins anew.
 FocusScope {
     id: editor
 
     property string text
+    /// What the text belongs to. It changes after the text.
+    property string subject
     property string accessibleName
     property bool following: false
 
@@ -23,6 +25,12 @@ FocusScope {
             area.append(text.slice(area.length));
         else
             area.replace(text);
+        following = false;
+    }
+    onSubjectChanged: {
+        following = true;
+        area.clear();
+        area.replace(text);
         following = false;
     }
 

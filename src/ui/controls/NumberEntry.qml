@@ -26,6 +26,8 @@ TextEntry {
     }
     onActiveFocusChanged: if (activeFocus) selectAll()
     onAccepted: selectAll()
+    Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape
+                                                         && text !== NumberText.shown(value)
     Keys.onEscapePressed: event => {
         event.accepted = text !== NumberText.shown(value);
         show();

@@ -49,7 +49,7 @@ T.Popup {
         highlighted = markedIndex;
         focusedBefore = parent.Window.activeFocusItem;
     }
-    onClosed: focusedBefore?.forceActiveFocus(Qt.TabFocusReason)
+    onClosed: focusedBefore?.forceActiveFocus(Qt.PopupFocusReason)
     onOpened: flick.forceActiveFocus(Qt.PopupFocusReason)
 
     background: Item {

@@ -16,10 +16,11 @@ T.AbstractButton {
     property bool leading: false
     property string help
     property int fontSize: controlSize === PushButton.Small ? Theme.caption : Theme.body
-    property color tint: kind === PushButton.Prominent ? Theme.overAccent
+    property color tint: prominent ? (enabled ? Theme.overAccent : Theme.tertiary)
                          : kind === PushButton.Destructive ? Theme.red
                          : kind === PushButton.Link ? Theme.accentText : Theme.primary
 
+    readonly property bool prominent: kind === PushButton.Prominent
     readonly property bool framed: kind !== PushButton.Link && kind !== PushButton.Plain
     readonly property int faceHeight: controlSize === PushButton.Large
                                       ? Theme.largeControlHeight
@@ -33,7 +34,7 @@ T.AbstractButton {
     rightPadding: leftPadding
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
-    opacity: enabled ? 1 : 0.45
+    opacity: enabled || prominent ? 1 : 0.45
     Accessible.name: text
     Accessible.description: help
     Keys.onReturnPressed: event => event.isAutoRepeat ? undefined : clicked()
@@ -51,6 +52,7 @@ T.AbstractButton {
     Item {
         id: face
         anchors.fill: parent
+        anchors.topMargin: button.topInset
         anchors.leftMargin: button.leftPadding
         anchors.rightMargin: button.rightPadding
         implicitWidth: words.implicitWidth + icon.space
@@ -97,8 +99,8 @@ T.AbstractButton {
         ControlSurface {
             anchors.fill: parent
             visible: button.framed
-            prominent: button.kind === PushButton.Prominent
-            pressed: button.down
+            prominent: button.prominent && button.enabled
+            pressed: button.down || (button.prominent && !button.enabled)
             hovered: button.hovered
         }
         FocusRing {

@@ -18,13 +18,20 @@ FocusScope {
     signal cancelled
     signal accepted
 
+    function takeReturn(event: KeyEvent): bool {
+        const plain = (event.modifiers & ~Qt.KeypadModifier) === Qt.NoModifier;
+        if (plain && !event.isAutoRepeat)
+            accepted();
+        return plain;
+    }
+
     implicitWidth: defaultWidth
     implicitHeight: all.implicitHeight + 2 * Theme.sheetPadding
     focus: true
     Accessible.role: Accessible.Dialog
     Accessible.name: title
-    Keys.onReturnPressed: event => event.isAutoRepeat ? undefined : accepted()
-    Keys.onEnterPressed: event => event.isAutoRepeat ? undefined : accepted()
+    Keys.onReturnPressed: event => event.accepted = takeReturn(event)
+    Keys.onEnterPressed: event => event.accepted = takeReturn(event)
     Keys.onPressed: event => {
         event.accepted = event.matches(StandardKey.Cancel);
         if (event.accepted)

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import QtQuick.Templates as T
 import Velmora
 
 /// The last step before a run: what will be sent, how fast, and under which name.
@@ -33,14 +34,16 @@ SheetFrame {
             Flickable {
                 anchors.fill: parent
                 anchors.margins: 12
+                anchors.rightMargin: 1
                 contentHeight: example.implicitHeight
                 interactive: contentHeight > height
                 boundsBehavior: Flickable.StopAtBounds
                 clip: interactive
+                T.ScrollBar.vertical: SlimScrollBar {}
 
                 SelectableText {
                     id: example
-                    width: parent.width
+                    width: parent.width - 11
                     height: implicitHeight
                     text: sheet.model.exampleText
                     color: Theme.primary
@@ -90,11 +93,13 @@ SheetFrame {
     }
     buttons: [
         PushButton {
+            controlSize: PushButton.Large
             text: "Cancel"
             onClicked: sheet.model.cancel()
         },
         PushButton {
             kind: PushButton.Prominent
+            controlSize: PushButton.Large
             text: "Start Sending"
             onClicked: sheet.model.startSending()
         }
