@@ -6,12 +6,17 @@
 namespace velmora {
 
 ConfirmModel::ConfirmModel(AppModel& model) : model_(model) {
-    connect(&model_, &AppModel::configChanged, this, &ConfirmModel::changed);
-    connect(&model_, &AppModel::selectionChanged, this, &ConfirmModel::changed);
-    connect(&model_, &AppModel::recipientsReplaced, this, &ConfirmModel::changed);
-    connect(&model_, &AppModel::recipientTextChanged, this, &ConfirmModel::changed);
-    connect(&model_, &AppModel::recipientTextsChanged, this, &ConfirmModel::changed);
+    connect(&model_, &AppModel::configChanged, this, &ConfirmModel::follow);
+    connect(&model_, &AppModel::selectionChanged, this, &ConfirmModel::follow);
+    connect(&model_, &AppModel::recipientsReplaced, this, &ConfirmModel::follow);
+    connect(&model_, &AppModel::recipientTextChanged, this, &ConfirmModel::follow);
+    connect(&model_, &AppModel::recipientTextsChanged, this, &ConfirmModel::follow);
     connect(&model_, &AppModel::batchNameChanged, this, &ConfirmModel::runNameChanged);
+}
+
+void ConfirmModel::follow() {
+    if (model_.confirmingRun)
+        Q_EMIT changed();
 }
 
 QString ConfirmModel::title() const {

@@ -36,10 +36,13 @@ class ConfirmModel final : public QObject {
     Q_INVOKABLE void startSending();
 
   Q_SIGNALS:
+    /// Announced while a run is to be confirmed: the sheet keeps its words while it leaves.
     void changed();
     void runNameChanged();
 
   private:
+    void follow();
+
     AppModel& model_;
 };
 

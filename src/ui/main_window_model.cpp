@@ -28,7 +28,8 @@ EmptyStateContent emptyStateContent(const AppModel& model) {
 
 }  // namespace
 
-MainWindowModel::MainWindowModel(AppModel& model) : model_(model) {
+MainWindowModel::MainWindowModel(AppModel& model)
+    : model_(model), alertText_(model.alert.value().value_or(QString())) {
     const auto announce = [this](auto signal) {
         connect(&model_, signal, this, &MainWindowModel::changed);
     };
@@ -40,11 +41,11 @@ MainWindowModel::MainWindowModel(AppModel& model) : model_(model) {
     announce(&AppModel::contactsAllowedChanged);
     announce(&AppModel::dbOKChanged);
     announce(&AppModel::bootstrappedChanged);
-    announce(&AppModel::alertChanged);
     announce(&AppModel::confirmingRunChanged);
     announce(&AppModel::showingFDAHelpChanged);
     announce(&AppModel::skippedFDAHelpChanged);
     announce(&AppModel::skippedSenderSetupChanged);
+    connect(&model_, &AppModel::alertChanged, this, &MainWindowModel::followAlert);
     connect(&model_.runner(), &Runner::stateChanged, this, &MainWindowModel::changed);
     connect(&model_, &AppModel::settingsRequested, this, &MainWindowModel::settingsRequested);
 }
@@ -131,7 +132,12 @@ bool MainWindowModel::alertShown() const {
 }
 
 QString MainWindowModel::alertText() const {
-    return model_.alert.value().value_or(QString());
+    return alertText_;
+}
+
+void MainWindowModel::followAlert() {
+    alertText_ = model_.alert.value().value_or(alertText_);
+    Q_EMIT changed();
 }
 
 void MainWindowModel::dismissAlert() {

@@ -67,6 +67,7 @@ class MainWindowModel final : public QObject {
     Q_INVOKABLE void followBanner();
 
     [[nodiscard]] bool alertShown() const;
+    /// The last alert's words, which stay while it leaves.
     [[nodiscard]] QString alertText() const;
     Q_INVOKABLE void dismissAlert();
 
@@ -88,7 +89,10 @@ class MainWindowModel final : public QObject {
     void settingsRequested();
 
   private:
+    void followAlert();
+
     AppModel& model_;
+    QString alertText_;
     std::optional<QCoro::Task<>> startUp_;
 };
 

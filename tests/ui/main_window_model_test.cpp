@@ -101,11 +101,11 @@ TEST_F(MainWindowModelTest, SheetsComeInTheirOrder) {
 
     app.bootstrap();
     world.clock.advance(1);
-    EXPECT_EQ(sheetOf(app), Sheet::fullDiskAccess);
+    EXPECT_EQ(sheetOf(app), Sheet::fullDiskAccessHelp);
     app.skippedFDAHelp = true;
     EXPECT_EQ(sheetOf(app), Sheet::none);
     app.showingFDAHelp = true;
-    EXPECT_EQ(sheetOf(app), Sheet::fullDiskAccess) << "asked for again";
+    EXPECT_EQ(sheetOf(app), Sheet::fullDiskAccessHelp) << "asked for again";
 
     thread(u"+12125550102"_s, myOtherLine);
     showHistory();
