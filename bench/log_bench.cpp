@@ -7,6 +7,7 @@
 
 #include "bench_home.h"
 #include "core/send_log.h"
+#include "platform/rehearsal/rehearsal_platform.h"
 
 namespace velmora {
 
@@ -36,6 +37,8 @@ class LogBench : public benchmark::Fixture {
   private:
     QTemporaryDir folder_;
     VirtualClock clock_{Moment{763657200.0}};
+    // As in the application, whose platform decides how memory is kept.
+    Platform platform_ = makeRehearsalPlatform(clock_, folder_.path());
     SupportFolder support_{folder_.path()};
 
   protected:

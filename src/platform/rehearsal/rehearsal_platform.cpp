@@ -1,5 +1,7 @@
 #include "platform/rehearsal/rehearsal_platform.h"
 
+#include <malloc.h>
+
 #include <QDir>
 #include <QStandardPaths>
 
@@ -9,7 +11,21 @@
 
 namespace velmora {
 
+namespace {
+
+// The history is opened anew for each reading. Left to itself the allocator hands the memory of
+// every connection back to the system and asks for it again, which takes longer than the reading.
+void keepFreedMemory() {
+    constexpr int kept = 32 * 1024 * 1024;
+    mallopt(M_TRIM_THRESHOLD, kept);
+    mallopt(M_MMAP_THRESHOLD, kept);
+    mallopt(M_TOP_PAD, 1024 * 1024);
+}
+
+}  // namespace
+
 Platform makeRehearsalPlatform(Clock& clock, const QString& home) {
+    keepFreedMemory();
     return {
         .contacts = std::make_unique<AddressBook>(home),
         .scripts = std::make_unique<MessagesApplication>(clock, home),
