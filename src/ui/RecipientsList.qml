@@ -13,9 +13,12 @@ ListView {
     function goTo(row: int) {
         currentIndex = Math.max(0, Math.min(count - 1, row));
         if (currentIndex === 0)
-            positionViewAtBeginning();
+            goToBeginning();
         else
             positionViewAtIndex(currentIndex, ListView.Contain);
+    }
+    function goToBeginning() {
+        contentY = originY - topMargin;
     }
     function enterNote(): bool {
         const row = currentItem as RecipientRow;
@@ -23,12 +26,14 @@ ListView {
     }
 
     readonly property int revision: recipients.revision
+    property bool complete: false
     readonly property int page: Math.max(1, Math.floor(height / 80))
 
     model: recipients
     clip: true
     reuseItems: true
     cacheBuffer: 200
+    topMargin: 6
     bottomMargin: 10
     boundsBehavior: Flickable.StopAtBounds
     highlightFollowsCurrentItem: false
@@ -59,12 +64,9 @@ ListView {
     // Tells the model which rows to spare when a search changes nearly all of them. A list that
     // stands at its beginning shows the beginning of what the search leaves.
     onContentYChanged: recipients.topRow = indexAt(width / 2, contentY + 1)
-    onRevisionChanged: if (recipients.topRow <= 0) positionViewAtBeginning()
+    onRevisionChanged: if (complete && recipients.topRow <= 0) goToBeginning()
+    Component.onCompleted: complete = true
 
-    header: Item {
-        width: 1
-        height: 6
-    }
     delegate: RecipientRow {
         width: list.width
         recipients: list.recipients

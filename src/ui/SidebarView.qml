@@ -27,6 +27,9 @@ Rectangle {
     }
     ListView {
         id: list
+
+        property bool complete: false
+
         anchors.fill: parent
         anchors.topMargin: heading.y + heading.height
         model: sidebar.model
@@ -39,7 +42,8 @@ Rectangle {
         boundsBehavior: Flickable.StopAtBounds
         reuseItems: true
         clip: true
-        onCurrentIndexChanged: positionViewAtIndex(currentIndex, ListView.Contain)
+        onCurrentIndexChanged: if (complete) positionViewAtIndex(currentIndex, ListView.Contain)
+        Component.onCompleted: complete = true
         Accessible.role: Accessible.List
         Accessible.name: "Lists"
         T.ScrollBar.vertical: SlimScrollBar {}
