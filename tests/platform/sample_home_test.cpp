@@ -55,35 +55,6 @@ TEST_F(SampleHomeTest, EveryNumberIsSetAsideForFiction) {
     EXPECT_EQ(history().senderNumbers(world.clock.now()).value().size(), 2U);
 }
 
-// Catches a guided tour without its fallback, wrong line, late or missing confirmation.
-TEST_F(SampleHomeTest, FridayDinnerMeetsEachTroubleOnce) {
-    const auto groups = contacts.readGroups().value();
-    const auto dinner = std::ranges::find(groups, u"Friday Dinner"_s, &GroupInfo::name);
-    ASSERT_NE(dinner, groups.end());
-    const auto sent = [this](const QString& phone, Service service, double seconds) {
-        const qint64 since = historyTimestamp(world.clock.now());
-        EXPECT_EQ(platform.scripts->run(messageScript(phone, service, u"Hi"_s)).outcome,
-                  ScriptResult::Outcome::success);
-        world.clock.advance(seconds);
-        return history().lastSent(phone, since).value();
-    };
-    QStringList troubles;
-    const auto diners = contacts.contactsInList(dinner->id);
-    for (const ContactRecord& diner : diners.value()) {
-        const QString phone = contacts.bestPhone(diner).value().phone;
-        const auto record = sent(phone, Service::iMessage, 7);
-        if (!record)
-            troubles.append(u"missing"_s);
-        else if (record->error != 0)
-            troubles.append(sent(phone, Service::sms, 7)->sent ? u"fallback"_s : u"failure"_s);
-        else if (record->line != u"+12125550100")
-            troubles.append(record->line);
-        else if (!record->isConclusive())
-            troubles.append(sent(phone, Service::iMessage, 9)->sent ? u"late"_s : u"never"_s);
-    }
-    EXPECT_EQ(troubles, (QStringList{u"fallback"_s, u"+12125550101"_s, u"late"_s, u"missing"_s}));
-}
-
 // Catches settings that are malformed (all defaults then) or keep a rehearsal from running at
 // night, and a rehearsal's own changes that are overwritten by preparing its home again.
 TEST_F(SampleHomeTest, AllowsAQuickRehearsalAtAnyHourAndIsPreparedOnce) {
