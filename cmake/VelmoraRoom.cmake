@@ -9,11 +9,6 @@ set(CMAKE_AUTOMOC ON)
 # What generators write is not ours to lint: clang-tidy takes the nearest settings above a file.
 file(WRITE ${CMAKE_BINARY_DIR}/.clang-tidy "Checks: '-*,misc-definitions-in-headers'\n")
 
-find_program(CCACHE_PROGRAM ccache)
-if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
-endif()
-
 add_library(velmora_options INTERFACE)
 target_compile_options(velmora_options INTERFACE -Wall -Wextra -Werror)
 target_compile_definitions(velmora_options INTERFACE
@@ -38,4 +33,7 @@ function(velmora_room name)
   set_target_properties(velmora_${name} PROPERTIES LINKER_LANGUAGE CXX)
   list(TRANSFORM ROOM_USES PREPEND velmora_)
   target_link_libraries(velmora_${name} PUBLIC velmora_options ${ROOM_USES} Qt6::Core ${ROOM_LINK})
+  if(NOT name STREQUAL core)
+    target_precompile_headers(velmora_${name} REUSE_FROM velmora_core)
+  endif()
 endfunction()
