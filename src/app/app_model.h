@@ -86,6 +86,8 @@ class AppModel final : public QObject {
     void openMessages();
     void openPage(ProductPage page);
 
+    /// The wall clock's moment.
+    [[nodiscard]] Moment now() const { return surroundings_.clock.now(); }
     [[nodiscard]] bool isAllContacts() const;
     /// The chosen list, the synthetic All Contacts included.
     [[nodiscard]] std::optional<GroupInfo> currentGroup() const;

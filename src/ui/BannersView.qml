@@ -10,7 +10,7 @@ Item {
     required property MainWindowModel model
 
     readonly property bool aboutNumber: model.banner === MainWindowModel.Banner.sendingNumber
-    readonly property color tint: aboutNumber ? Theme.orange : Theme.red
+    readonly property color tint: Theme[model.bannerColor]
 
     visible: model.banner !== MainWindowModel.Banner.none
     implicitHeight: visible ? strip.implicitHeight + 2 * 8 + 1 : 0
@@ -36,6 +36,7 @@ Item {
             Layout.fillWidth: true
             text: banners.model.bannerText
             font.pixelSize: Theme.callout
+            Accessible.ignored: true
         }
         PushButton {
             controlSize: PushButton.Small

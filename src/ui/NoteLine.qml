@@ -7,6 +7,7 @@ FocusScope {
     id: line
 
     property string note
+    property color linkColor
     property bool showsField: false
     property bool showsOffer: false
     property bool fieldEnabled: true
@@ -36,6 +37,7 @@ FocusScope {
             fontSize: Theme.caption
             symbol: "square.and.pencil"
             text: "Add note"
+            tint: line.linkColor
             activeFocusOnTab: false
             onClicked: line.enter()
         }

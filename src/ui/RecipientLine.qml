@@ -11,8 +11,10 @@ Column {
     property color threadTextColor
     property string threadSymbol
     property color threadSymbolColor
+    property color labelColor
+    property real maximumWidth
 
-    width: Math.max(150, implicitWidth)
+    width: Math.min(maximumWidth, Math.max(150, implicitWidth))
     spacing: 3
 
     FixedDigitsText {
@@ -24,9 +26,12 @@ Column {
     BodyText {
         anchors.right: parent.right
         visible: text.length > 0
+        width: Math.min(implicitWidth, line.maximumWidth)
         text: line.phoneLabel
-        color: Theme.secondary
+        color: line.labelColor
         font.pixelSize: Theme.caption
+        wrapMode: Text.NoWrap
+        elide: Text.ElideMiddle
     }
     Row {
         anchors.right: parent.right
@@ -34,6 +39,7 @@ Column {
         spacing: 4
 
         SymbolIcon {
+            id: symbol
             visible: line.threadSymbol.length > 0
             anchors.verticalCenter: parent.verticalCenter
             name: line.threadSymbol
@@ -41,9 +47,13 @@ Column {
             color: line.threadSymbolColor
         }
         BodyText {
+            width: Math.min(implicitWidth,
+                            line.maximumWidth - (symbol.visible ? symbol.width + 4 : 0))
             text: line.threadText
             color: line.threadTextColor
             font.pixelSize: Theme.caption
+            wrapMode: Text.NoWrap
+            elide: Text.ElideMiddle
         }
     }
 }

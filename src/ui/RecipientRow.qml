@@ -34,6 +34,7 @@ FocusScope {
     required property string heading
 
     readonly property bool current: ListView.isCurrentItem
+    readonly property string shade: rowOpacity < 1 ? "Faint" : ""
 
     /// The row becomes the current one.
     signal activated
@@ -43,17 +44,20 @@ FocusScope {
     function enterNote(): bool {
         return noteLine.enter();
     }
-    function take() {
+    function leave() {
         noteLine.focus = false;
         passage.focus = false;
+    }
+    function take() {
+        leave();
         activated();
         taken();
     }
 
     implicitHeight: Math.max(words.height, line.height, box.height + 1) + 10
                     + content.headingHeight
-    onCurrentChanged: if (!current) noteLine.focus = false
-    ListView.onPooled: noteLine.focus = false
+    onCurrentChanged: if (!current) leave()
+    ListView.onPooled: leave()
     Accessible.role: Accessible.ListItem
     Accessible.name: spoken
     Accessible.focusable: true
@@ -124,43 +128,19 @@ FocusScope {
             width: content.width - x - 12 - line.width
             spacing: 3
 
-            Flow {
+            RecipientName {
                 width: parent.width
-                spacing: 6
-
-                BodyText {
-                    id: nameText
-                    width: Math.min(implicitWidth, parent.width)
-                    text: row.name
-                    font.pixelSize: Theme.headline
-                    font.weight: Font.DemiBold
-                    wrapMode: Text.NoWrap
-                    elide: Text.ElideRight
-                }
-                BodyText {
-                    width: Math.min(implicitWidth, parent.width)
-                    visible: text.length > 0
-                    text: row.company
-                    color: Theme.secondary
-                    wrapMode: Text.NoWrap
-                    elide: Text.ElideRight
-                }
-                LabelWithSymbol {
-                    height: nameText.height
-                    visible: text.length > 0
-                    text: row.sentText
-                    symbol: "checkmark.seal.fill"
-                    textColor: Theme.green
-                    fontSize: Theme.caption
-                    spacing: 4
-                }
+                name: row.name
+                company: row.company
+                sentText: row.sentText
+                shade: row.shade
             }
             LabelWithSymbol {
                 width: parent.width
                 visible: text.length > 0
                 text: row.issueText
                 symbol: row.issueSymbol
-                textColor: Theme[row.issueTextColor]
+                textColor: Theme[row.issueTextColor + row.shade]
                 symbolColor: Theme[row.issueSymbolColor]
                 fontSize: Theme.callout
             }
@@ -169,12 +149,15 @@ FocusScope {
                 width: parent.width
                 visible: text.length > 0
                 text: row.preview
+                color: Theme["secondary" + row.shade]
                 lines: 3
+                onEntered: row.activated()
             }
             NoteLine {
                 id: noteLine
                 width: parent.width
                 visible: row.showsNote || row.offersNote
+                linkColor: Theme["accentText" + row.shade]
                 note: row.note
                 showsField: row.showsNote
                 showsOffer: row.offersNote
@@ -194,7 +177,9 @@ FocusScope {
             phone: row.phone
             phoneLabel: row.phoneLabel
             threadText: row.threadText
-            threadTextColor: Theme[row.threadTextColor]
+            maximumWidth: content.width / 2
+            labelColor: Theme["secondary" + row.shade]
+            threadTextColor: Theme[row.threadTextColor + row.shade]
             threadSymbol: row.threadSymbol
             threadSymbolColor: Theme[row.threadSymbolColor]
         }

@@ -3,8 +3,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Velmora
 
-/// The rows of the people. One stop for the keyboard: arrows move, Space checks, Return or Tab
-/// enters the row's note.
+/// The rows of the people. One stop for the keyboard: arrows move, Space checks, Return enters the
+/// row's note or makes one, Tab enters it where there is one.
 ListView {
     id: list
 
@@ -20,9 +20,9 @@ ListView {
     function goToBeginning() {
         contentY = originY - topMargin;
     }
-    function enterNote(): bool {
+    function enterNote(makesOne: bool): bool {
         const row = currentItem as RecipientRow;
-        return row !== null && row.enterNote();
+        return row !== null && (makesOne || row.showsNote) && row.enterNote();
     }
 
     readonly property int revision: recipients.revision
@@ -45,10 +45,13 @@ ListView {
 
     Keys.onUpPressed: goTo(currentIndex - 1)
     Keys.onDownPressed: goTo(currentIndex + 1)
-    Keys.onSpacePressed: recipients.toggle(currentIndex)
-    Keys.onReturnPressed: enterNote()
-    Keys.onEnterPressed: enterNote()
-    Keys.onTabPressed: event => event.accepted = enterNote()
+    Keys.onSpacePressed: event => {
+        if (!event.isAutoRepeat)
+            recipients.toggle(currentIndex);
+    }
+    Keys.onReturnPressed: enterNote(true)
+    Keys.onEnterPressed: enterNote(true)
+    Keys.onTabPressed: event => event.accepted = enterNote(false)
     Keys.onPressed: event => {
         const to = {
             [Qt.Key_Home]: 0,

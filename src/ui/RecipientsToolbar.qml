@@ -44,6 +44,7 @@ Item {
 
         SegmentedChoice {
             Layout.preferredWidth: 150
+            small: true
             options: ["All", "Selected"]
             currentIndex: bar.model.selectedOnly ? 1 : 0
             accessibleName: "Show"

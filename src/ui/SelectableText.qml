@@ -2,13 +2,16 @@ import QtQuick
 import Velmora
 
 /// Text that can be selected and copied. With `lines` it ends there with an ellipsis.
-Item {
+FocusScope {
     id: passage
 
     property string text
     property color color: Theme.secondary
     property int fontSize: Theme.callout
     property int lines: 10000
+
+    /// The pointer has put the keyboard here.
+    signal entered
 
     implicitHeight: shown.implicitHeight
 
@@ -38,7 +41,8 @@ Item {
         selectionColor: Theme.selection
         selectedTextColor: Theme.primary
         font: shown.font
-        onActiveFocusChanged: if (!activeFocus) deselect()
+        focus: true
+        onActiveFocusChanged: activeFocus ? passage.entered() : deselect()
         Accessible.ignored: true
     }
 }

@@ -12,7 +12,6 @@ Item {
     readonly property MainWindowModel window: presentation.window
 
     component HostedSheet: SheetPopup {
-        animated: host.presentation.animated
         titleBottom: host.titleBottom
     }
 

@@ -9,13 +9,10 @@ T.Popup {
     id: popup
 
     required property bool shown
-    required property bool animated
     required property int titleBottom
     required property Component sheet
 
     property real hidden: 0
-
-    readonly property int duration: animated ? 220 : 0
 
     parent: T.Overlay.overlay
     x: Math.round((parent.width - width) / 2)
@@ -40,7 +37,7 @@ T.Popup {
             property: "hidden"
             from: 1
             to: 0
-            duration: popup.duration
+            duration: Theme.sheetSlide
             easing.type: Easing.OutCubic
         }
     }
@@ -49,7 +46,7 @@ T.Popup {
             property: "hidden"
             from: 0
             to: 1
-            duration: popup.duration
+            duration: Theme.sheetSlide
             easing.type: Easing.InCubic
         }
     }

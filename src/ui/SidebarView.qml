@@ -47,6 +47,10 @@ Rectangle {
         Accessible.role: Accessible.List
         Accessible.name: "Lists"
         T.ScrollBar.vertical: SlimScrollBar {}
+        FocusRing {
+            anchors.margins: 6
+            shown: list.activeFocus && sidebar.model.currentRow < 0
+        }
         Keys.onUpPressed: sidebar.model.choose(Math.max(0, sidebar.model.currentRow - 1))
         Keys.onDownPressed: sidebar.model.choose(Math.min(sidebar.lastRow,
                                                           sidebar.model.currentRow + 1))

@@ -9,17 +9,24 @@ Item {
     required property int from
     required property int to
 
+    readonly property int minimumValue: from
+    readonly property int maximumValue: to
+
     signal moved(int value)
+
+    function moveBy(distance: int) {
+        moved(Math.max(from, Math.min(to, value + distance)));
+    }
 
     implicitWidth: 1
     activeFocusOnTab: true
-    Accessible.role: Accessible.Separator
+    Accessible.role: Accessible.Slider
     Accessible.name: "Sidebar width"
     Accessible.focusable: true
-    Accessible.onIncreaseAction: handle.moved(handle.value + 10)
-    Accessible.onDecreaseAction: handle.moved(handle.value - 10)
-    Keys.onLeftPressed: handle.moved(Math.max(handle.from, handle.value - 10))
-    Keys.onRightPressed: handle.moved(Math.min(handle.to, handle.value + 10))
+    Accessible.onIncreaseAction: handle.moveBy(10)
+    Accessible.onDecreaseAction: handle.moveBy(-10)
+    Keys.onLeftPressed: handle.moveBy(-10)
+    Keys.onRightPressed: handle.moveBy(10)
 
     Rectangle {
         anchors.fill: parent

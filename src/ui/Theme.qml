@@ -15,15 +15,23 @@ QtObject {
     readonly property int callout: 12
     readonly property int caption: 11
 
-    // Text and symbols: at least 4.5 to 1 on every background below, orange (symbols alone) 3 to 1.
+    // Text at 4.5 to 1 and more on what it stands on, symbols at 3 to 1.
     readonly property color primary: dark ? "#ececee" : "#1d1d1f"
     readonly property color secondary: dark ? "#b3b3b8" : "#5a5a5f"
-    readonly property color tertiary: dark ? "#9c9ca2" : "#66666b"
+    readonly property color tertiary: dark ? "#a8a8ae" : "#66666b"
     readonly property color accentText: dark ? "#66aeff" : "#0b5fd0"
     readonly property color overAccent: "#ffffff"
     readonly property color red: dark ? "#ff8078" : "#cc1f1a"
     readonly property color orange: dark ? "#ffa733" : "#c76200"
-    readonly property color green: dark ? "#3fd160" : "#1c7a34"
+    readonly property color green: dark ? "#3fd160" : "#1a7331"
+    readonly property color destructive: dark ? "#ffb0ab" : "#c41c17"
+
+    // The same where the row around it is drawn faint, which takes some of their contrast.
+    readonly property color primaryFaint: primary
+    readonly property color secondaryFaint: dark ? "#d2d2d7" : "#36363a"
+    readonly property color tertiaryFaint: secondaryFaint
+    readonly property color accentTextFaint: dark ? "#abd3ff" : "#04317a"
+    readonly property color greenFaint: dark ? "#6fe98a" : "#0b3f1a"
 
     // Surfaces.
     readonly property color windowBackground: dark ? "#252527" : "#f5f5f7"
@@ -37,6 +45,13 @@ QtObject {
     readonly property color controlPressed: dark ? "#5a5a5f" : "#e6e6e9"
     readonly property color controlBorder: dark ? "#5b5b60" : "#cfcfd4"
     readonly property color controlEdge: dark ? "#232325" : "#b9b9bf"
+    readonly property color sheetEdge: dark ? "#4a4a4e" : "#cfcfd4"
+    readonly property color boxEdge: dark ? "#a8a8ae" : "#a4a4aa"
+    readonly property color segment: dark ? "#636369" : "#ffffff"
+    readonly property color segmentEdge: dark ? "#636369" : "#d9d9de"
+    readonly property color groove: dark ? "#33ffffff" : "#1f000000"
+    readonly property color scrollThumb: dark ? "#99ffffff" : "#80000000"
+    readonly property color switchOff: dark ? "#5c5c61" : "#d2d2d7"
     readonly property color separator: dark ? "#3d3d41" : "#dcdce0"
     readonly property color quaternary: dark ? "#1affffff" : "#0f000000"
     readonly property color sheetDim: dark ? "#80000000" : "#33000000"
@@ -61,6 +76,7 @@ QtObject {
     readonly property int focusRingWidth: 3
 
     /// How long a colour or a position takes to change, in milliseconds.
-    readonly property int quick: 90
+    readonly property int quick: SystemAppearance.animated ? 90 : 0
+    readonly property int sheetSlide: SystemAppearance.animated ? 220 : 0
     readonly property int helpDelay: 900
 }

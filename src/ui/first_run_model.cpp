@@ -4,6 +4,7 @@
 
 #include "core/phone.h"
 #include "ui/clock_time.h"
+#include "ui/full_disk_access_timeline.h"
 
 namespace velmora {
 
@@ -69,6 +70,10 @@ void FirstRunModel::openMessages() {
 
 void FirstRunModel::checkAgain() {
     model_.refreshNumbers();
+}
+
+double FirstRunModel::animationTime() const {
+    return FullDiskAccessTimeline::phase(model_.now());
 }
 
 void FirstRunModel::openSystemSettings() {

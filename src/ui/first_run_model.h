@@ -44,6 +44,8 @@ class FirstRunModel final : public QObject {
     /// Looks for the sending numbers, and with them whether the history can be read, again.
     Q_INVOKABLE void checkAgain();
 
+    /// Where the loop of the animation stands now, in seconds.
+    Q_INVOKABLE [[nodiscard]] double animationTime() const;
     Q_INVOKABLE void openSystemSettings();
     /// Puts the Full Disk Access help off until the application starts again.
     Q_INVOKABLE void notNow();

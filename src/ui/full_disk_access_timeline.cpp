@@ -29,10 +29,6 @@ void FullDiskAccessTimeline::setTime(double time) {
     Q_EMIT timeChanged();
 }
 
-void FullDiskAccessTimeline::showNow() {
-    setTime(phase(momentOf(QDateTime::currentDateTimeUtc())));
-}
-
 double FullDiskAccessTimeline::opacity() const {
     if (time_ < 0.3)
         return std::min(1.0, time_ / 0.3);

@@ -27,8 +27,6 @@ class FullDiskAccessTimeline : public QObject {
 
     [[nodiscard]] double time() const { return time_; }
     void setTime(double time);
-    /// Sets `time` to the loop's place at this moment of the wall clock.
-    Q_INVOKABLE void showNow();
 
     /// Of the whole drawing, 0 to 1.
     [[nodiscard]] double opacity() const;

@@ -6,6 +6,7 @@
 
 #include "ui/svg_symbol_source.h"
 #include "ui/symbol_image_provider.h"
+#include "ui/system_appearance.h"
 
 // The module's types register themselves from here: in a static library without a plugin nothing
 // else refers to them, and the linker would leave them out.
@@ -30,7 +31,7 @@ void useInterFont() {
 }  // namespace
 
 MainWindow::MainWindow(AppModel& model, std::unique_ptr<SymbolSource> symbols, Motion motion)
-    : presentation_(model, motion) {
+    : presentation_(model) {
     qml_register_types_Velmora();
     QQuickStyle::setStyle(QStringLiteral("Basic"));
     useInterFont();
@@ -39,6 +40,9 @@ MainWindow::MainWindow(AppModel& model, std::unique_ptr<SymbolSource> symbols, M
     }
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine_.addImageProvider(QStringLiteral("symbol"), new SymbolImageProvider(std::move(symbols)));
+    const int appearance = qmlTypeId("Velmora", 1, 0, "SystemAppearance");
+    engine_.singletonInstance<SystemAppearance*>(appearance)
+        ->setAnimated(motion == Motion::animated);
     engine_.setInitialProperties(
         {{QStringLiteral("presentation"), QVariant::fromValue(&presentation_)}});
     engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Velmora/MainWindowRoot.qml")));

@@ -9,6 +9,9 @@
 
 namespace velmora {
 
+/// Whether sheets, colours and the like change gradually or at once.
+enum class Motion { animated, still };
+
 /// The application's main window with all that its views need: their models, the symbols, the font.
 class MainWindow final {
   public:

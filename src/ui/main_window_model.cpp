@@ -107,6 +107,10 @@ QString MainWindowModel::bannerSymbol() const {
                                               : QStringLiteral("iphone");
 }
 
+QString MainWindowModel::bannerColor() const {
+    return banner() == Banner::fullDiskAccess ? QStringLiteral("red") : QStringLiteral("orange");
+}
+
 QString MainWindowModel::bannerText() const {
     return banner() == Banner::fullDiskAccess
                ? QStringLiteral(

@@ -27,6 +27,7 @@ class MainWindowModel final : public QObject {
     Q_PROPERTY(QString emptyButton READ emptyButton NOTIFY changed)
     Q_PROPERTY(Banner banner READ banner NOTIFY changed)
     Q_PROPERTY(QString bannerSymbol READ bannerSymbol NOTIFY changed)
+    Q_PROPERTY(QString bannerColor READ bannerColor NOTIFY changed)
     Q_PROPERTY(QString bannerText READ bannerText NOTIFY changed)
     Q_PROPERTY(QString bannerButton READ bannerButton NOTIFY changed)
     Q_PROPERTY(bool alertShown READ alertShown NOTIFY changed)
@@ -61,6 +62,8 @@ class MainWindowModel final : public QObject {
 
     [[nodiscard]] Banner banner() const;
     [[nodiscard]] QString bannerSymbol() const;
+    /// The strip's colour by its name in the theme.
+    [[nodiscard]] QString bannerColor() const;
     [[nodiscard]] QString bannerText() const;
     [[nodiscard]] QString bannerButton() const;
     /// Does what the banner's button says.

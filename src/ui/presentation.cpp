@@ -2,9 +2,8 @@
 
 namespace velmora {
 
-Presentation::Presentation(AppModel& model, Motion motion)
-    : motion_(motion),
-      window_(model),
+Presentation::Presentation(AppModel& model)
+    : window_(model),
       menus_(model),
       sidebar_(model),
       recipients_(model),

@@ -16,15 +16,11 @@
 
 namespace velmora {
 
-/// Whether sheets and the like move into place or are simply there.
-enum class Motion { animated, still };
-
 /// All that the views are given: one model for each of them.
 class Presentation final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made with the main window")
-    Q_PROPERTY(bool animated READ animated CONSTANT)
     Q_PROPERTY(velmora::MainWindowModel* window READ window CONSTANT)
     Q_PROPERTY(velmora::MenuCommands* menus READ menus CONSTANT)
     Q_PROPERTY(velmora::SidebarModel* sidebar READ sidebar CONSTANT)
@@ -37,9 +33,8 @@ class Presentation final : public QObject {
 
   public:
     /// `model` outlives it.
-    Presentation(AppModel& model, Motion motion);
+    explicit Presentation(AppModel& model);
 
-    [[nodiscard]] bool animated() const { return motion_ == Motion::animated; }
     [[nodiscard]] MainWindowModel* window() { return &window_; }
     [[nodiscard]] MenuCommands* menus() { return &menus_; }
     [[nodiscard]] SidebarModel* sidebar() { return &sidebar_; }
@@ -51,7 +46,6 @@ class Presentation final : public QObject {
     [[nodiscard]] FirstRunModel* firstRun() { return &firstRun_; }
 
   private:
-    Motion motion_;
     MainWindowModel window_;
     MenuCommands menus_;
     SidebarModel sidebar_;

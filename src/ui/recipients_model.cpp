@@ -109,12 +109,14 @@ void RecipientsModel::followSelection() {
 }
 
 void RecipientsModel::followConfig() {
-    if (std::exchange(senderNumber_, model_.config().senderNumber) != model_.config().senderNumber)
+    const QString before = std::exchange(senderNumber_, model_.config().senderNumber);
+    if (before != senderNumber_)
         announceAll({threadSymbolRole, threadSymbolColorRole});
 }
 
 void RecipientsModel::followRun() {
-    if (std::exchange(enabled_, enabled()) == enabled_)
+    const bool before = std::exchange(enabled_, enabled());
+    if (before == enabled_)
         return;
     Q_EMIT enabledChanged();
     announceAll({checkableRole, offersNoteRole});

@@ -21,6 +21,13 @@ SystemAppearance::SystemAppearance(QObject* parent) : QObject(parent), dark_(pal
         qGuiApp->installEventFilter(this);
 }
 
+void SystemAppearance::setAnimated(bool animated) {
+    if (animated == animated_)
+        return;
+    animated_ = animated;
+    Q_EMIT animatedChanged();
+}
+
 bool SystemAppearance::eventFilter(QObject* watched, QEvent* event) {
     if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange) {
         const bool dark = paletteIsDark();

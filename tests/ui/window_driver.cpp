@@ -91,6 +91,9 @@ bool WindowDriver::shows(const QString& name, QWindow* in) {
 }
 
 QPoint WindowDriver::place(const QString& name, QAccessible::Role role) {
+    // A frame puts everything where it belongs.
+    QEvent frame(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(&window(), &frame);
     QAccessibleInterface* found = nullptr;
     until([&] {
         found = findBelow(QAccessible::queryAccessibleInterface(&window()), name, role);

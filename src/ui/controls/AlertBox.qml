@@ -29,7 +29,7 @@ FocusScope {
         anchors.fill: parent
         radius: 12
         color: Theme.sheetBackground
-        border.color: Theme.dark ? "#4a4a4e" : "#cfcfd4"
+        border.color: Theme.sheetEdge
     }
 
     ColumnLayout {

@@ -17,7 +17,7 @@ T.AbstractButton {
     property string help
     property int fontSize: controlSize === PushButton.Small ? Theme.caption : Theme.body
     property color tint: prominent ? (enabled ? Theme.overAccent : Theme.tertiary)
-                         : kind === PushButton.Destructive ? Theme.red
+                         : kind === PushButton.Destructive ? Theme.destructive
                          : kind === PushButton.Link ? Theme.accentText : Theme.primary
 
     readonly property bool prominent: kind === PushButton.Prominent

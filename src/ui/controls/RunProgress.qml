@@ -19,7 +19,7 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: height / 2
-        color: Theme.dark ? "#33ffffff" : "#1f000000"
+        color: Theme.groove
     }
     Rectangle {
         width: Math.max(progress.value > 0 ? height : 0,

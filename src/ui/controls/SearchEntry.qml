@@ -43,6 +43,7 @@ FocusScope {
             Layout.fillWidth: true
             focus: true
             plain: true
+            small: true
             onEdited: text => search.edited(text)
             Keys.onEscapePressed: event => {
                 event.accepted = field.length > 0;
@@ -55,8 +56,8 @@ FocusScope {
             kind: PushButton.Plain
             symbol: "xmark.circle.fill"
             tint: Theme.secondary
-            fontSize: 11
-            implicitHeight: 16
+            fontSize: Theme.caption
+            implicitHeight: 14
             Accessible.name: "Clear search"
             onClicked: {
                 field.forceActiveFocus(Qt.OtherFocusReason);

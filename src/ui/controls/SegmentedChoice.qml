@@ -8,21 +8,25 @@ Item {
 
     property list<string> options
     property int currentIndex: 0
+    property bool small: false
     property string accessibleName
     property string help
 
     signal chosen(int index)
 
     implicitWidth: 64 * options.length
-    implicitHeight: Theme.controlHeight
+    implicitHeight: small ? Theme.smallControlHeight : Theme.controlHeight
     activeFocusOnTab: true
     opacity: enabled ? 1 : 0.45
     Accessible.role: Accessible.Grouping
     Accessible.name: accessibleName
-    Accessible.description: help
+    Accessible.description: options[currentIndex] + ". " + help
     Keys.onLeftPressed: if (currentIndex > 0) chosen(currentIndex - 1)
     Keys.onRightPressed: if (currentIndex < options.length - 1) chosen(currentIndex + 1)
-    Keys.onSpacePressed: chosen((currentIndex + 1) % options.length)
+    Keys.onSpacePressed: event => {
+        if (!event.isAutoRepeat)
+            chosen((currentIndex + 1) % options.length);
+    }
 
     HoverHandler { id: hover }
 
@@ -50,9 +54,8 @@ Item {
             width: track.segmentWidth
             height: parent.height
             radius: Theme.radius - 1
-            color: Theme.dark ? "#636369" : "#ffffff"
-            border.width: Theme.dark ? 0 : 1
-            border.color: "#d9d9de"
+            color: Theme.segment
+            border.color: Theme.segmentEdge
 
             Behavior on x {
                 NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic }
@@ -71,6 +74,7 @@ Item {
                 width: track.segmentWidth
                 height: track.height
                 text: modelData
+                font.pixelSize: choice.small ? Theme.caption : Theme.body
                 font.weight: choice.currentIndex === index ? Font.Medium : Font.Normal
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter

@@ -42,7 +42,7 @@ FocusScope {
         anchors.fill: parent
         radius: Theme.panelRadius
         color: Theme.sheetBackground
-        border.color: Theme.dark ? "#4a4a4e" : "#cfcfd4"
+        border.color: Theme.sheetEdge
     }
 
     ColumnLayout {

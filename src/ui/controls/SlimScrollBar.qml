@@ -17,7 +17,7 @@ T.ScrollBar {
         implicitWidth: 7
         implicitHeight: 7
         radius: 3.5
-        color: Theme.dark ? "#99ffffff" : "#80000000"
+        color: Theme.scrollThumb
         opacity: bar.active || bar.hovered || bar.pressed ? 1 : 0
 
         Behavior on opacity {

@@ -21,8 +21,10 @@ Item {
     Accessible.checked: checked
     Accessible.onPressAction: box.toggled(!box.checked)
     Accessible.onToggleAction: box.toggled(!box.checked)
-    Keys.onSpacePressed: event => event.isAutoRepeat ? undefined : box.toggled(!box.checked)
-    Keys.onReturnPressed: box.toggled(!box.checked)
+    Keys.onSpacePressed: event => {
+        if (!event.isAutoRepeat)
+            box.toggled(!box.checked);
+    }
 
     TapHandler {
         id: tap
@@ -44,7 +46,7 @@ Item {
                                           : hover.hovered ? Theme.controlHover
                                                         : Theme.controlBackground)
         border.width: box.checked ? 0 : 1
-        border.color: Theme.dark ? Theme.tertiary : "#a4a4aa"
+        border.color: Theme.boxEdge
 
         SymbolIcon {
             anchors.centerIn: parent

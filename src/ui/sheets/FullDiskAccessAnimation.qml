@@ -7,6 +7,8 @@ import Velmora
 Item {
     id: animation
 
+    required property FirstRunModel firstRun
+
     implicitWidth: 320
     implicitHeight: 200
     Accessible.role: Accessible.Animation
@@ -14,11 +16,11 @@ Item {
 
     FullDiskAccessTimeline {
         id: timeline
-        Component.onCompleted: showNow()
+        time: animation.firstRun.animationTime()
     }
     FrameAnimation {
         running: animation.visible
-        onTriggered: timeline.showNow()
+        onTriggered: timeline.time = animation.firstRun.animationTime()
     }
 
     Rectangle {
@@ -98,7 +100,7 @@ Item {
                 width: 38
                 height: 22
                 radius: 11
-                color: Theme.dark ? "#5c5c61" : "#d2d2d7"
+                color: Theme.switchOff
 
                 Rectangle {
                     anchors.fill: parent

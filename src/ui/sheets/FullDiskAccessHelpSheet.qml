@@ -70,6 +70,7 @@ SheetFrame {
         }
         FullDiskAccessAnimation {
             Layout.alignment: Qt.AlignTop
+            firstRun: sheet.firstRun
         }
     }
 

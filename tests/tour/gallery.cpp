@@ -1,0 +1,222 @@
+// Every state of every view, each as pictures in light and dark: velmora_gallery <folder>. Where
+// the display is dense (QT_SCALE_FACTOR=2), in one size; else in the smallest and the first one.
+
+#include <QGuiApplication>
+#include <cstdio>
+
+#include "tour/stage.h"
+
+namespace velmora {
+
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+const QString addressBookPath = u"Library/Contacts/contacts.json"_s;
+const QString messagesPath = u"Library/Messages/messages.json"_s;
+const QString historyPath = u"Library/Messages/chat.db"_s;
+
+bool isPaused(Stage& stage) {
+    return stage.model().runner().state == Runner::State::paused;
+}
+
+void firstStart(Stage& stage) {
+    const QByteArray history = stage.contentOf(historyPath);
+    stage.remove(historyPath);
+    stage.open();
+    stage.until(u"the terms"_s, [&] { return stage.user().shows(u"I Agree"_s); });
+    stage.show(u"01-terms"_s);
+    stage.click(u"I Agree"_s);
+    stage.until(u"the help"_s, [&] { return stage.user().shows(u"Not Now"_s); });
+    // The loop of the drawing is 7 seconds.
+    for (const double moment : {0.2, 1.2, 2.3, 4.0, 6.6}) {
+        stage.passTo(moment, 7);
+        stage.show(u"02-full-disk-access-%1"_s.arg(moment));
+    }
+    stage.click(u"Not Now"_s);
+    stage.until(u"the banner"_s, [&] { return !stage.user().shows(u"Not Now"_s); });
+    stage.show(u"03-banner-full-disk-access"_s);
+    stage.place(historyPath, history);
+}
+
+void noNumber(Stage& stage) {
+    stage.editSettings([](AppConfig& config) { config.termsAccepted = u"1"_s; });
+    stage.emptyHistory();
+    stage.place(messagesPath, "{}");
+    stage.open();
+    stage.until(u"the sheet"_s, [&] { return stage.user().shows(u"Open Messages"_s); });
+    stage.show(u"04-no-number"_s);
+    stage.click(u"Choose Later"_s);
+    stage.model().openSettings();
+    stage.show(u"05-settings-no-number"_s, stage.window(u"Settings"_s));
+}
+
+void severalNumbers(Stage& stage) {
+    stage.editSettings([](AppConfig& config) { config.termsAccepted = u"1"_s; });
+    stage.open();
+    stage.until(u"the sheet"_s, [&] { return stage.user().shows(u"Choose Later"_s); });
+    stage.show(u"06-several-numbers"_s);
+    stage.click(u"Choose Later"_s);
+    stage.until(u"the banner"_s, [&] { return stage.user().shows(u"Open Settings"_s); });
+    stage.show(u"07-banner-sending-number"_s);
+}
+
+void contactsDenied(Stage& stage) {
+    stage.editSettings([](AppConfig& config) { config.termsAccepted = u"1"_s; });
+    stage.place(addressBookPath, R"({ "access": "denied" })");
+    stage.open();
+    stage.show(u"08-contacts-denied"_s);
+}
+
+void emptyStates(Stage& stage) {
+    stage.place(addressBookPath, stage.contentOf(addressBookPath)
+                                     .replace("\"groups\": [",
+                                              "\"groups\": [ { \"identifier\": \"g-none\", "
+                                              "\"name\": \"Choir\", \"members\": [] },"));
+    stage.openDinner();
+    stage.model().selectGroup({});
+    stage.show(u"09-no-list"_s);
+    stage.click(u"Choir, 0"_s);
+    stage.show(u"10-nobody"_s);
+    stage.click(u"Friday Dinner, 8"_s);
+    stage.click(u"Selected"_s);
+    stage.show(u"11-nobody-selected"_s);
+    stage.click(u"All"_s);
+    stage.click(u"Search people"_s);
+    stage.user().type(u"zebra"_s);
+    stage.show(u"12-no-matches"_s);
+}
+
+void lists(Stage& stage) {
+    stage.openDinner();
+    stage.click(u"All Contacts, 41"_s);
+    stage.click(u"Select All"_s);
+    stage.show(u"13-all-contacts"_s);
+    stage.user().key(Qt::Key_End);
+    stage.click(u"Family, 8"_s);
+    stage.click(u"Select Nana"_s);
+    stage.show(u"14-family"_s);
+    stage.click(u"Neighbours, 9"_s);
+    stage.click(u"Select All"_s);
+    stage.show(u"15-neighbours"_s);
+    stage.click(u"Friday Dinner, 8"_s);
+    stage.click(u"Select Ann Lee"_s);
+    stage.click(u"Select Ben Carter"_s);
+    stage.click(u"Add note"_s);
+    stage.user().type(u"And your guitar, please"_s);
+    stage.show(u"16-notes"_s);
+    stage.click(u"Selected"_s);
+    stage.click(u"Search people"_s);
+    stage.user().type(u"carter"_s);
+    stage.show(u"17-search"_s);
+}
+
+void message(Stage& stage) {
+    stage.openDinner();
+    stage.click(u"Select All"_s);
+    stage.model().setCurrentTemplate(
+        u"Hi {first_name}, dinner on Friday at eight? I'm cooking.{custom_note}\n---\n"
+        "{first_name}, are you free on Friday? Dinner is at eight, at mine.{custom_note}\n---\n"
+        "Dinner at mine on Friday, {first_name}? Eight o'clock.{custom_note}"_s);
+    stage.show(u"18-versions"_s);
+    stage.click(u"Insert"_s);
+    stage.show(u"19-insert-menu"_s);
+    stage.user().key(Qt::Key_Escape);
+    stage.click(u"(212) 555-0100"_s, QAccessible::ButtonMenu);
+    stage.show(u"20-send-from-menu"_s);
+    stage.user().key(Qt::Key_Escape);
+    stage.click(u"People"_s, QAccessible::ButtonMenu);
+    stage.show(u"21-people-menu"_s);
+    stage.user().key(Qt::Key_Escape);
+    stage.click(u"Send to 8…"_s);
+    stage.until(u"the confirm sheet"_s, [&] { return stage.user().shows(u"Start Sending"_s); });
+    stage.show(u"22-confirm"_s);
+    stage.user().key(Qt::Key_Escape);
+    stage.click(u"Clear All"_s);
+    stage.user().key(Qt::Key_Return, Qt::ControlModifier);
+    stage.until(u"the alert"_s, [&] { return stage.user().shows(u"OK"_s); });
+    stage.show(u"23-alert"_s);
+}
+
+void run(Stage& stage) {
+    stage.startDinner();
+    stage.show(u"24-sending"_s);
+    stage.model().openSettings();
+    stage.show(u"25-settings-during-a-run"_s, stage.window(u"Settings"_s));
+    stage.closeWindow(u"Settings"_s);
+    stage.until(u"a wait"_s, [&] {
+        return stage.model().runner().log().size() > 1 && stage.model().runner().nextIn.value();
+    });
+    stage.show(u"26-waiting"_s);
+    stage.until(u"the wrong line"_s, [&] { return isPaused(stage); });
+    stage.show(u"27-paused-wrong-line"_s);
+    stage.click(u"Resume"_s);
+    stage.until(u"the end"_s, [&] { return stage.model().runner().state == Runner::State::done; });
+    stage.show(u"29-done"_s);
+    stage.user().key(Qt::Key_R, Qt::ControlModifier);
+    stage.show(u"30-already-sent"_s);
+}
+
+void stopping(Stage& stage) {
+    stage.place(messagesPath, R"({ "recordAfter": 15 })");
+    stage.startDinner();
+    stage.until(u"a text under way"_s,
+                [&] { return stage.model().runner().current.value().has_value(); });
+    stage.click(u"Stop"_s);
+    stage.until(u"the stop"_s, [&] { return stage.user().shows(u"Stopping…"_s); });
+    stage.show(u"28-stopping"_s);
+}
+
+void pausedForHours(Stage& stage) {
+    stage.editSettings([](AppConfig& config) {
+        config.quietStart = u"18:00"_s;
+        config.quietEnd = u"21:30"_s;
+    });
+    stage.startDinner();
+    stage.until(u"the pause"_s, [&] { return isPaused(stage); });
+    stage.show(u"31-paused-hours"_s);
+}
+
+void pausedForFailures(Stage& stage) {
+    stage.place(messagesPath,
+                R"({ "scriptError": "Messages got an error: Can't get participant." })");
+    stage.startDinner();
+    stage.until(u"the pause"_s, [&] { return isPaused(stage); });
+    stage.show(u"32-paused-failures"_s);
+}
+
+void settings(Stage& stage) {
+    stage.openDinner();
+    stage.model().testPhone = u"(212) 555-0110"_s;
+    stage.model().testResult = u"Sent by iMessage on (212) 555-0100."_s;
+    stage.model().openSettings();
+    stage.show(u"33-settings"_s, stage.window(u"Settings"_s));
+    stage.model().setSenderNumber(u"+13125550199"_s);
+    stage.show(u"34-settings-number-gone"_s, stage.window(u"Settings"_s));
+    stage.closeWindow(u"Settings"_s);
+    stage.click(u"Velmora"_s, QAccessible::ButtonMenu);
+    stage.click(u"About Velmora"_s, QAccessible::MenuItem);
+    stage.show(u"35-about"_s, stage.window(u"About Velmora"_s));
+}
+
+}  // namespace
+
+}  // namespace velmora
+
+int main(int argc, char** argv) {
+    using namespace velmora;
+    const QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
+    const QStringList arguments = QGuiApplication::arguments();
+    if (arguments.size() != 2) {
+        std::fputs("Usage: velmora_gallery <folder for the pictures>\n", stderr);
+        return 2;
+    }
+    for (auto* scene : {firstStart, noNumber, severalNumbers, contactsDenied, emptyStates, lists,
+                        message, run, stopping, pausedForHours, pausedForFailures, settings}) {
+        Stage stage{QDir(arguments[1])};
+        scene(stage);
+    }
+    std::printf("Pictures: %s\n", qPrintable(arguments[1]));
+    return 0;
+}
