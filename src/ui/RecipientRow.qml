@@ -57,7 +57,12 @@ FocusScope {
     implicitHeight: Math.max(words.height, line.height, box.height + 1) + 10
                     + content.headingHeight
     onCurrentChanged: if (!current) leave()
-    ListView.onPooled: leave()
+    // The list hides a spare row from the eye alone, not from a screen reader.
+    ListView.onPooled: {
+        leave();
+        visible = false;
+    }
+    ListView.onReused: visible = true
     Accessible.role: Accessible.ListItem
     Accessible.name: spoken
     Accessible.focusable: true

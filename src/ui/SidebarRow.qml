@@ -18,6 +18,8 @@ Item {
     signal cleared
 
     implicitHeight: 28
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
     Accessible.role: Accessible.ListItem
     Accessible.name: name + ", " + count
     Accessible.selectable: true

@@ -42,7 +42,7 @@ QtObject {
     readonly property color menuBackground: dark ? "#333337" : "#f8f8fa"
     readonly property color controlBackground: dark ? "#454549" : "#ffffff"
     readonly property color controlHover: dark ? "#4c4c50" : "#fafafb"
-    readonly property color controlPressed: dark ? "#5a5a5f" : "#e6e6e9"
+    readonly property color controlPressed: dark ? "#505055" : "#e6e6e9"
     readonly property color controlBorder: dark ? "#5b5b60" : "#cfcfd4"
     readonly property color controlEdge: dark ? "#232325" : "#b9b9bf"
     readonly property color sheetEdge: dark ? "#4a4a4e" : "#cfcfd4"

@@ -45,6 +45,32 @@ QAccessibleInterface* findBelow(QAccessibleInterface* root, const QString& name,
     return nullptr;
 }
 
+QString speech(QAccessibleInterface* element) {
+    const QAccessible::State state = element->state();
+    QStringList words{QVariant::fromValue(element->role()).toString(),
+                      element->text(QAccessible::Name)};
+    QAccessibleValueInterface* number = element->valueInterface();
+    const QString value =
+        number != nullptr ? number->currentValue().toString() : element->text(QAccessible::Value);
+    if (!value.isEmpty() && element->role() != QAccessible::Window)
+        words.append(QLatin1String("value ") + value);
+    if (state.checkable)
+        words.append(QLatin1String(state.checked ? "checked" : "unchecked"));
+    if (state.selected)
+        words.append(QLatin1String("selected"));
+    if (state.disabled)
+        words.append(QLatin1String("disabled"));
+    return words.join(QLatin1String(", "));
+}
+
+void listen(QAccessibleInterface* element, QStringList& spoken) {
+    if (element->state().invisible)
+        return;
+    spoken.append(speech(element));
+    for (int child = 0; child < element->childCount(); ++child)
+        listen(element->child(child), spoken);
+}
+
 }  // namespace
 
 WindowDriver::WindowDriver(AppModel& model, VirtualClock& clock)
@@ -90,29 +116,40 @@ bool WindowDriver::shows(const QString& name, QWindow* in) {
     return findBelow(root, name, QAccessible::NoRole) != nullptr;
 }
 
-QPoint WindowDriver::place(const QString& name, QAccessible::Role role) {
-    // A frame puts everything where it belongs.
-    QEvent frame(QEvent::UpdateRequest);
-    QCoreApplication::sendEvent(&window(), &frame);
-    QAccessibleInterface* found = nullptr;
-    until([&] {
-        found = findBelow(QAccessible::queryAccessibleInterface(&window()), name, role);
-        return found != nullptr;
-    });
-    return found == nullptr ? QPoint() : window().mapFromGlobal(found->rect().center());
+QStringList WindowDriver::spoken(const QString& name, QWindow* in) {
+    auto* root = QAccessible::queryAccessibleInterface(in == nullptr ? &window() : in);
+    QAccessibleInterface* from = name.isEmpty() ? root : findBelow(root, name, QAccessible::NoRole);
+    QStringList all;
+    if (from != nullptr)
+        listen(from, all);
+    return all;
 }
 
-bool WindowDriver::click(const QString& name, QAccessible::Role role) {
-    const QPoint at = place(name, role);
+QPoint WindowDriver::place(const QString& name, QAccessible::Role role, QWindow* in) {
+    QWindow* window = in == nullptr ? &this->window() : in;
+    // A frame puts everything where it belongs.
+    QEvent frame(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(window, &frame);
+    QAccessibleInterface* found = nullptr;
+    until([&] {
+        found = findBelow(QAccessible::queryAccessibleInterface(window), name, role);
+        return found != nullptr;
+    });
+    return found == nullptr ? QPoint() : window->mapFromGlobal(found->rect().center());
+}
+
+bool WindowDriver::click(const QString& name, QAccessible::Role role, QWindow* in) {
+    const QPoint at = place(name, role, in);
     if (!at.isNull()) {
-        clickAt(at);
+        clickAt(at, in);
     }
     return !at.isNull();
 }
 
-void WindowDriver::clickAt(QPoint place) {
-    QTest::mouseMove(&window(), place);
-    QTest::mouseClick(&window(), Qt::LeftButton, {}, place);
+void WindowDriver::clickAt(QPoint place, QWindow* in) {
+    QWindow* window = in == nullptr ? &this->window() : in;
+    QTest::mouseMove(window, place);
+    QTest::mouseClick(window, Qt::LeftButton, {}, place);
     settle();
 }
 

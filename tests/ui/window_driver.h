@@ -31,12 +31,17 @@ class WindowDriver {
 
     /// Whether something of that name is on the screen, in the main window or `in` another.
     [[nodiscard]] bool shows(const QString& name, QWindow* in = nullptr);
+    /// All that a screen reader finds from the thing of that name on, in its order: role, name and
+    /// state of each. An empty name means the whole window.
+    [[nodiscard]] QStringList spoken(const QString& name = {}, QWindow* in = nullptr);
     /// Clicks on what is called that, where `role` can tell it from another of its name; false when
     /// there is no such thing.
-    bool click(const QString& name, QAccessible::Role role = QAccessible::NoRole);
+    bool click(const QString& name, QAccessible::Role role = QAccessible::NoRole,
+               QWindow* in = nullptr);
     /// Where the thing of that name is; null when there is none.
-    [[nodiscard]] QPoint place(const QString& name, QAccessible::Role role = QAccessible::NoRole);
-    void clickAt(QPoint place);
+    [[nodiscard]] QPoint place(const QString& name, QAccessible::Role role = QAccessible::NoRole,
+                               QWindow* in = nullptr);
+    void clickAt(QPoint place, QWindow* in = nullptr);
     /// Types ASCII characters.
     void type(const QString& text);
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);

@@ -178,6 +178,89 @@ TEST_F(WindowTest, SettingsAreAWindowOfTheirOwn) {
     EXPECT_TRUE(user.window().isVisible());
 }
 
+// Catches controls that stay open during a run, a pause without its reason, and a log or a summary
+// that does not come to the screen.
+TEST_F(WindowTest, ARunIsStartedPausedResumedAndDone) {
+    home.writeMessages(messagesOnLine(myOtherLine));
+    withFriends().setSenderNumber(myLine);
+    model->setSelected(u"ann"_s, true);
+    model->setSelected(u"joanne"_s, true);
+    WindowDriver& user = show();
+    user.key(Qt::Key_Comma, command);
+    ASSERT_TRUE(user.until([] { return WindowDriver::windowTitled(u"Settings"_s) != nullptr; }));
+    QWindow* settings = WindowDriver::windowTitled(u"Settings"_s);
+    EXPECT_TRUE(user.click(u"Send to 2…"_s));
+    ASSERT_TRUE(user.until([&] { return user.shows(u"Start Sending"_s); }));
+    EXPECT_TRUE(user.click(u"Start Sending"_s));
+    ASSERT_TRUE(user.until([&] { return user.shows(u"Resume"_s); }));
+    EXPECT_TRUE(
+        user.shows(u"1 of 2 · Ann Lee got it from (212) 555-8888, not (212) 555-9999. Fix "
+                   "the line on your iPhone, then resume."_s));
+
+    const QString message = model->currentTemplate();
+    user.click(u"Message"_s, QAccessible::EditableText);
+    user.type(u"later"_s);
+    user.click(u"All Contacts, 3"_s);
+    user.click(u"Clear All"_s);
+    user.click(u"Select Bob Stone"_s);
+    EXPECT_EQ(model->currentTemplate(), message);
+    EXPECT_EQ(model->config().selectedGroupID, u"friends"_s);
+    EXPECT_EQ(model->selection().size(), 2);
+    const AppConfig before = model->config();
+    for (const char* name : {"Shortest wait between texts in seconds", "From hour",
+                             "Pause after 3 failures in a row", "Send from"}) {
+        user.click(QLatin1String(name), QAccessible::NoRole, settings);
+        user.key(Qt::Key_Up);
+        user.type(u"7"_s);
+    }
+    EXPECT_EQ(model->config(), before) << "the settings of a run were changed";
+
+    user.window().requestActivate();
+    home.writeMessages(messagesOnLine(myLine));
+    EXPECT_TRUE(user.click(u"Resume"_s));
+    EXPECT_TRUE(user.until([&] { return user.shows(u"2 of 2 · Finished. 2 of 2 processed."_s); }));
+    EXPECT_TRUE(user.shows(u"Joanne"_s) && user.shows(u"Activity"_s));
+}
+
+// Catches a search that the list or the bulk buttons do not follow, and one that Escape keeps.
+TEST_F(WindowTest, SearchLimitsWhatIsSelected) {
+    withFriends();
+    WindowDriver& user = show();
+    user.click(u"Search people"_s);
+    user.type(u"bo"_s);
+    EXPECT_TRUE(user.until([&] { return !user.shows(u"Ann Lee"_s); }));
+    EXPECT_TRUE(user.click(u"Select Shown"_s));
+    EXPECT_EQ(model->selection(), QSet<QString>{u"bob"_s});
+    user.click(u"Search people"_s);
+    user.key(Qt::Key_Escape);
+    EXPECT_TRUE(user.until([&] { return user.shows(u"Ann Lee"_s) && user.shows(u"Clear All"_s); }));
+    user.click(u"Selected"_s);
+    EXPECT_TRUE(user.until([&] { return !user.shows(u"Ann Lee"_s); }));
+    EXPECT_TRUE(user.click(u"Clear Shown"_s));
+    EXPECT_TRUE(user.until([&] { return user.shows(u"Nobody selected yet"_s); }));
+}
+
+// Catches a note that loses the keyboard or its row while it is typed, and keys that act on
+// another person than the one just clicked.
+TEST_F(WindowTest, NotesAndKeysStayWithTheirPerson) {
+    withFriends().setCurrentTemplate(u"Hi {first_name}{custom_note}"_s);
+    WindowDriver& user = show();
+    user.click(u"Hi Joanne"_s);
+    user.key(Qt::Key_Space);
+    EXPECT_EQ(model->selection(), QSet<QString>{u"joanne"_s});
+    user.key(Qt::Key_Return);
+    user.type(u"See you there"_s);
+    EXPECT_EQ(user.focused(), u"Personal note");
+    EXPECT_EQ(model->config().notes.value(u"joanne"_s), u"See you there");
+    EXPECT_TRUE(user.until([&] { return user.shows(u"Hi Joanne See you there"_s); }));
+    user.key(Qt::Key_Escape);
+    user.key(Qt::Key_Space);
+    EXPECT_TRUE(model->selection().isEmpty());
+    user.key(Qt::Key_Up);
+    user.key(Qt::Key_Space);
+    EXPECT_EQ(model->selection(), QSet<QString>{u"bob"_s});
+}
+
 }  // namespace
 
 }  // namespace velmora
