@@ -1,0 +1,206 @@
+// The real window over an address book of 10,000 people, in real time: run it on a display, in the
+// folder of the other benchmarks. Each figure is the median of ten.
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QQuickItem>
+#include <QTest>
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <functional>
+#include <optional>
+
+#include "bench_home.h"
+#include "core/config_store.h"
+#include "core/system_surroundings.h"
+#include "platform/rehearsal/rehearsal_platform.h"
+#include "ui/main_window.h"
+
+namespace velmora {
+
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+constexpr int rounds = 10;
+
+double monotonicMilliseconds(clockid_t clock) {
+    timespec now{};
+    clock_gettime(clock, &now);
+    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+}
+
+double median(std::vector<double> values) {
+    std::ranges::sort(values);
+    return (values[values.size() / 2] + values[(values.size() - 1) / 2]) / 2;
+}
+
+void report(const char* what, const std::vector<double>& values, const char* unit) {
+    std::printf("%-44s median %7.2f %s, worst %7.2f\n", what, median(values), unit,
+                *std::ranges::max_element(values));
+}
+
+/// Velmora as a user has it: the system's time, and a home that has been used before.
+class BenchWindow {
+  public:
+    explicit BenchWindow(const QString& home)
+        : platform_(makeRehearsalPlatform(clock_, home)),
+          model_(Doors{*platform_.contacts, *platform_.scripts, *platform_.accountPreferences,
+                       *platform_.desktop},
+                 {clock_, random_, background_}, {platform_.home, platform_.applicationSupport}),
+          main_(model_, nullptr) {
+        QObject::connect(&main_.window(), &QQuickWindow::frameSwapped, &main_.window(),
+                         [this] { ++frames_; });
+        main_.show();
+    }
+
+    [[nodiscard]] AppModel& model() { return model_; }
+    [[nodiscard]] QQuickWindow& window() { return main_.window(); }
+
+    void untilFrame() {
+        for (const int before = frames_; frames_ == before;)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    void untilLoaded() {
+        while (!model_.bootstrapped)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        QTest::qWait(500);
+    }
+    /// Milliseconds from `action` to the end of the frame that shows what it did.
+    double timed(const std::function<void()>& action) {
+        QTest::qWait(150);
+        QElapsedTimer timer;
+        timer.start();
+        const int before = frames_;
+        action();
+        if (frames_ == before)
+            untilFrame();
+        return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+    }
+
+  private:
+    SystemClock clock_;
+    SystemRandomSource random_;
+    ThreadBackground background_;
+    Platform platform_;
+    AppModel model_;
+    MainWindow main_;
+    int frames_ = 0;
+};
+
+QString usedHome() {
+    const QString home = benchHome(10'000, 1'000);
+    SupportFolder support(home + u"/.local/share"_s);
+    AppConfig config;
+    config.termsAccepted = u"1"_s;
+    config.senderNumber = u"+12125550001"_s;
+    config.selectedGroupID = allContactsID;
+    config.quietStart = u"00:00"_s;
+    config.quietEnd = u"23:59"_s;
+    config.delayMin = config.delayMax = 120;
+    config.templates[allContactsID] = u"Hi {first_name}, are you in?"_s;
+    ConfigStore(support).save(config);
+    return home;
+}
+
+/// In a process of its own, which was started at `started`.
+int firstFrame(double started) {
+    BenchWindow bench(usedHome());
+    bench.untilFrame();
+    std::printf("%f\n", monotonicMilliseconds(CLOCK_MONOTONIC) - started);
+    return 0;
+}
+
+void measureFirstFrame() {
+    std::vector<double> times;
+    for (int round = 0; round < rounds; ++round) {
+        QProcess process;
+        process.start(QCoreApplication::applicationFilePath(),
+                      {QString::number(monotonicMilliseconds(CLOCK_MONOTONIC), 'f', 3)});
+        process.waitForFinished(-1);
+        times.push_back(process.readAllStandardOutput().trimmed().toDouble());
+    }
+    report("first frame after the process starts", times, "ms");
+}
+
+double memoryInMegabytes() {
+    QFile file(u"/proc/self/smaps_rollup"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("The memory of the process cannot be read.");
+    for (const QByteArray& line : file.readAll().split('\n'))
+        if (line.startsWith("Pss:"))
+            return line.mid(4).trimmed().chopped(3).toDouble() / 1024;
+    return 0;
+}
+
+void measureHands(BenchWindow& bench) {
+    std::vector<double> keys;
+    std::vector<double> ticks;
+    std::vector<double> scrolls;
+    QQuickWindow& window = bench.window();
+    const QList<QQuickItem*> items = window.findChildren<QQuickItem*>();
+    const auto search = std::ranges::find_if(items, [](const QQuickItem* item) {
+        return item->property("placeholderText") == u"Search people"_s;
+    });
+    const QPoint list(500, 500);
+    for (int round = 0; round < rounds; ++round) {
+        scrolls.push_back(bench.timed([&] {
+            QWheelEvent wheel(list, window.mapToGlobal(list), {}, {0, -120}, Qt::NoButton, {},
+                              Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(&window, &wheel);
+        }));
+    }
+    if (search == items.end())
+        qFatal("The search field was not found.");
+    (*search)->forceActiveFocus();
+    for (const char key : std::string("given1fami")) {
+        keys.push_back(bench.timed([&] { QTest::keyClick(&window, key); }));
+    }
+    bench.model().searchText = QString();
+    QTest::qWait(500);
+    for (int round = 0; round < rounds; ++round) {
+        const QString id = bench.model().recipients()[static_cast<size_t>(round)].id;
+        ticks.push_back(bench.timed([&] { bench.model().setSelected(id, true); }));
+    }
+    report("a keystroke in the search field", keys, "ms");
+    report("ticking a box", ticks, "ms");
+    report("a step of the wheel", scrolls, "ms");
+    report("memory (PSS)", {memoryInMegabytes()}, "MB");
+}
+
+void measureWaiting(BenchWindow& bench) {
+    bench.model().requestRun();
+    bench.model().confirmRun();
+    while (!bench.model().runner().nextIn.value())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    std::vector<double> shares;
+    for (int round = 0; round < rounds; ++round) {
+        const double before = monotonicMilliseconds(CLOCK_PROCESS_CPUTIME_ID);
+        QTest::qWait(5000);
+        shares.push_back((monotonicMilliseconds(CLOCK_PROCESS_CPUTIME_ID) - before) / 50);
+    }
+    report("one core's share while a run waits", shares, "%");
+    bench.model().runner().stop();
+    QTest::qWait(1000);
+}
+
+}  // namespace
+
+}  // namespace velmora
+
+int main(int argc, char** argv) {
+    using namespace velmora;
+    const QGuiApplication application(argc, argv);
+    if (argc == 2)
+        return firstFrame(QByteArray(argv[1]).toDouble());
+    static_cast<void>(usedHome());
+    measureFirstFrame();
+    BenchWindow bench(usedHome());
+    bench.untilLoaded();
+    measureHands(bench);
+    measureWaiting(bench);
+    return 0;
+}
