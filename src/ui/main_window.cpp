@@ -4,7 +4,7 @@
 #include <QGuiApplication>
 #include <QQuickStyle>
 
-#include "ui/svg_symbol_source.h"
+#include "ui/drawn_look.h"
 #include "ui/symbol_image_provider.h"
 
 // The module's types register themselves from here: in a static library without a plugin nothing
@@ -17,9 +17,8 @@ namespace {
 
 constexpr int bodyPixels = 13;
 
-/// Where the family is installed; elsewhere the system's own font stays.
-void useInterFont() {
-    const QString family = QStringLiteral("Inter");
+/// The views read the family from the application's font.
+void useFont(const QString& family) {
     if (QFontDatabase::hasFamily(family)) {
         QFont font(family);
         font.setPixelSize(bodyPixels);
@@ -29,18 +28,19 @@ void useInterFont() {
 
 }  // namespace
 
-MainWindow::MainWindow(AppModel& model, std::unique_ptr<SymbolSource> symbols, Motion motion)
-    : presentation_(model, motion) {
+MainWindow::MainWindow(AppModel& model, std::unique_ptr<NativeLook> look, Motion motion)
+    : presentation_(model, look && look->reducesMotion() ? Motion::still : motion) {
+    if (!look) {
+        look = std::make_unique<DrawnLook>();
+    }
     qml_register_types_Velmora();
     QQuickStyle::setStyle(QStringLiteral("Basic"));
-    useInterFont();
-    if (!symbols) {
-        symbols = std::make_unique<SvgSymbolSource>();
-    }
+    useFont(look->fontFamily());
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine_.addImageProvider(QStringLiteral("symbol"), new SymbolImageProvider(std::move(symbols)));
     engine_.setInitialProperties(
-        {{QStringLiteral("presentation"), QVariant::fromValue(&presentation_)}});
+        {{QStringLiteral("presentation"), QVariant::fromValue(&presentation_)},
+         {QStringLiteral("nativeMenus"), look->nativeMenuBar()}});
+    engine_.addImageProvider(QStringLiteral("symbol"), new SymbolImageProvider(std::move(look)));
     engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Velmora/MainWindowRoot.qml")));
     if (!engine_.rootObjects().isEmpty()) {
         window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());

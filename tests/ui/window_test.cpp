@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 
 #include "app/app_home.h"
+#include "ui/drawn_look.h"
 #include "ui/window_driver.h"
 
 namespace velmora {
@@ -38,6 +39,16 @@ class WindowTest : public AppHome {
 };
 
 const auto command = Qt::ControlModifier;
+
+class CalmLook final : public DrawnLook {
+    [[nodiscard]] bool reducesMotion() const override { return true; }
+};
+
+// Catches sheets that move for someone who asked the desktop for less of that.
+TEST_F(WindowTest, NothingMovesWhereTheDesktopAsksForLessMotion) {
+    EXPECT_FALSE(MainWindow(open(), std::make_unique<CalmLook>()).presentation().animated());
+    EXPECT_TRUE(MainWindow(*model, nullptr).presentation().animated());
+}
 
 // Catches a first-use sheet that can be passed by, by the pointer, by Tab or by a shortcut, one out
 // of its turn, and one that stays after it has been answered.
