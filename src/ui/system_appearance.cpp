@@ -1,6 +1,7 @@
 #include "ui/system_appearance.h"
 
 #include <QEvent>
+#include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
 
@@ -19,6 +20,10 @@ bool paletteIsDark() {
 SystemAppearance::SystemAppearance(QObject* parent) : QObject(parent), dark_(paletteIsDark()) {
     if (qGuiApp != nullptr)
         qGuiApp->installEventFilter(this);
+}
+
+QString SystemAppearance::fontFamily() const {
+    return QGuiApplication::font().family();
 }
 
 bool SystemAppearance::eventFilter(QObject* watched, QEvent* event) {

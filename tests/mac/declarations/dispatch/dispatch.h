@@ -1,5 +1,5 @@
-// Just the declarations of the platform's queues that src/platform/mac uses, written from its public
-// documentation.
+// Just the declarations of the platform's queues that src/platform/mac uses, written from its
+// public documentation.
 
 #pragma once
 
