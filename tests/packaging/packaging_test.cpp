@@ -13,8 +13,7 @@
 #include "support/rehearsal_home.h"
 
 using namespace Qt::StringLiterals;
-
-namespace velmora {
+using velmora::writeTestFile;
 
 namespace {
 
@@ -77,7 +76,10 @@ TEST(Package, WhatIsMissingIsNamedInOneSentence) {
               u"Name notarytool's keychain profile with --profile."_s);
     EXPECT_EQ(package({u"--profile"_s}).errors, u"The argument --profile needs a value."_s);
     const QStringList named = {u"--identity"_s, u"X"_s, u"--profile"_s, u"Y"_s};
-    EXPECT_TRUE(package(named + QStringList{u"--output"_s, u"/"_s}).errors.startsWith(u"/ cannot"));
+    const QTemporaryDir folder(QDir::tempPath() + u"/XXXXXX.dmg"_s);
+    EXPECT_EQ(
+        package(named + QStringList{u"--output"_s, folder.path()}).errors,
+        folder.path() + u" cannot be the disk image; name a file ending in .dmg with --output."_s);
     const Outcome noTools = package(named);
     EXPECT_EQ(noTools.code, 1);
     EXPECT_TRUE(noTools.errors.startsWith(u"The tool "_s)) << qPrintable(noTools.errors);
@@ -152,5 +154,3 @@ TEST(Icon, EverySizeOfTheSetIsDrawn) {
 }
 
 }  // namespace
-
-}  // namespace velmora
