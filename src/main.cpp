@@ -15,19 +15,22 @@ int main(int argc, char** argv) {
     QGuiApplication::setOrganizationName(QStringLiteral("Velmora"));
     QGuiApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("velmora"));
-    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/velmora/icon/velmora.svg")));
 
     SystemClock clock;
     SystemRandomSource random;
     ThreadBackground background;
     Platform platform = makePlatform(clock);
+    // A platform with a look of its own takes the icon from the bundle, which this would replace.
+    if (!platform.look) {
+        QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/velmora/icon/velmora.svg")));
+    }
     AppModel model({.contacts = *platform.contacts,
                     .scripts = *platform.scripts,
                     .accountPreferences = *platform.accountPreferences,
                     .desktop = *platform.desktop},
                    {.clock = clock, .random = random, .background = background},
                    {.home = platform.home, .applicationSupport = platform.applicationSupport});
-    MainWindow window(model, std::move(platform.symbols));
+    MainWindow window(model, std::move(platform.look));
     window.show();
     return QGuiApplication::exec();
 }

@@ -34,7 +34,7 @@ struct GroupRecord {
     QString name;
 };
 
-/// The platform's raw phone labels that outrank others, as its constants spell them.
+/// The platform's raw phone labels that outrank others, as this program spells them.
 namespace PhoneLabel {
 inline const QString mobile = QStringLiteral("_$!<Mobile>!$_");
 inline const QString iPhone = QStringLiteral("iPhone");
@@ -64,7 +64,8 @@ class ContactSource {
     [[nodiscard]] virtual std::expected<void, ContactsError> enumerateContacts(
         const std::function<void(ContactRecord)>& visit) = 0;
 
-    /// The unified members of a group, in the store's order. Fails for an unknown group.
+    /// The unified members of a group, in the store's order. For an unknown group the platform may
+    /// fail or give none.
     [[nodiscard]] virtual std::expected<std::vector<ContactRecord>, ContactsError> membersOfGroup(
         const QString& identifier) = 0;
 

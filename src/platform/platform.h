@@ -8,7 +8,7 @@
 #include "core/clock.h"
 #include "history/account_preferences.h"
 #include "sending/script_runner.h"
-#include "ui/symbol_source.h"
+#include "ui/native_look.h"
 
 namespace velmora {
 
@@ -18,10 +18,9 @@ struct Platform {
     std::unique_ptr<ScriptRunner> scripts;
     std::unique_ptr<AccountPreferences> accountPreferences;
     std::unique_ptr<Desktop> desktop;
-    std::unique_ptr<SymbolSource>
-        symbols;                 ///< the system's symbols; none where the views bring theirs
-    QString home;                ///< the user's home folder
-    QString applicationSupport;  ///< the folder that holds each application's own folder
+    std::unique_ptr<NativeLook> look;  ///< the system's own; none where the views bring theirs
+    QString home;                      ///< the user's home folder
+    QString applicationSupport;        ///< the folder that holds each application's own folder
 };
 
 /// The platform that the build chose; one folder beside this file defines it. `clock` outlives it.

@@ -26,7 +26,7 @@ Window {
 
         Image {
             anchors.horizontalCenter: parent.horizontalCenter
-            source: "qrc:/velmora/icon/velmora.svg"
+            source: "image://symbol/applicationIcon"
             sourceSize.width: 96
             sourceSize.height: 96
             Accessible.ignored: true

@@ -8,8 +8,8 @@ ApplicationWindow {
     id: root
 
     required property Presentation presentation
+    required property bool nativeMenus
 
-    readonly property bool nativeMenus: Qt.platform.os === "osx"
     readonly property int barHeight: nativeMenus ? 0 : bar.height
 
     width: 1240

@@ -7,7 +7,7 @@ QtObject {
     readonly property bool dark: SystemAppearance.dark
 
     // Type, in points of the layout. Captions stay readable on displays of low density.
-    readonly property string fontFamily: Qt.platform.os === "osx" ? ".AppleSystemUIFont" : "Inter"
+    readonly property string fontFamily: SystemAppearance.fontFamily
     readonly property int title2: 17
     readonly property int title3: 15
     readonly property int headline: 13

@@ -4,7 +4,7 @@
 #include <QGuiApplication>
 #include <QQuickStyle>
 
-#include "ui/svg_symbol_source.h"
+#include "ui/drawn_look.h"
 #include "ui/symbol_image_provider.h"
 #include "ui/system_appearance.h"
 
@@ -18,9 +18,8 @@ namespace {
 
 constexpr int bodyPixels = 13;
 
-/// Where the family is installed; elsewhere the system's own font stays.
-void useInterFont() {
-    const QString family = QStringLiteral("Inter");
+/// The views read the family from the application's font.
+void useFont(const QString& family) {
     if (QFontDatabase::hasFamily(family)) {
         QFont font(family);
         font.setPixelSize(bodyPixels);
@@ -30,21 +29,22 @@ void useInterFont() {
 
 }  // namespace
 
-MainWindow::MainWindow(AppModel& model, std::unique_ptr<SymbolSource> symbols, Motion motion)
+MainWindow::MainWindow(AppModel& model, std::unique_ptr<NativeLook> look, Motion motion)
     : presentation_(model) {
+    if (!look) {
+        look = std::make_unique<DrawnLook>();
+    }
     qml_register_types_Velmora();
     QQuickStyle::setStyle(QStringLiteral("Basic"));
-    useInterFont();
-    if (!symbols) {
-        symbols = std::make_unique<SvgSymbolSource>();
-    }
+    useFont(look->fontFamily());
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine_.addImageProvider(QStringLiteral("symbol"), new SymbolImageProvider(std::move(symbols)));
     const int appearance = qmlTypeId("Velmora", 1, 0, "SystemAppearance");
     engine_.singletonInstance<SystemAppearance*>(appearance)
-        ->setAnimated(motion == Motion::animated);
+        ->setAnimated(motion == Motion::animated && !look->reducesMotion());
     engine_.setInitialProperties(
-        {{QStringLiteral("presentation"), QVariant::fromValue(&presentation_)}});
+        {{QStringLiteral("presentation"), QVariant::fromValue(&presentation_)},
+         {QStringLiteral("nativeMenus"), look->nativeMenuBar()}});
+    engine_.addImageProvider(QStringLiteral("symbol"), new SymbolImageProvider(std::move(look)));
     engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Velmora/MainWindowRoot.qml")));
     if (!engine_.rootObjects().isEmpty()) {
         window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
@@ -52,11 +52,11 @@ MainWindow::MainWindow(AppModel& model, std::unique_ptr<SymbolSource> symbols, M
     if (window_ == nullptr) {
         qFatal("The main window cannot be loaded.");
     }
-    QObject::connect(window_, &QWindow::visibleChanged, &presentation_, [this](bool visible) {
-        if (visible) {
-            presentation_.window()->windowShown();
-        }
-    });
+    // The start-up reads for a while: the window is on the screen first.
+    QObject::connect(
+        window_, &QQuickWindow::frameSwapped, &presentation_,
+        [this] { presentation_.window()->windowShown(); },
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     QObject::connect(qApp, &QGuiApplication::applicationStateChanged, &presentation_,
                      [this](Qt::ApplicationState state) {
                          if (state == Qt::ApplicationActive) {

@@ -39,11 +39,25 @@ QSize completed(QSize size) {
 
 }  // namespace
 
-SymbolImageProvider::SymbolImageProvider(std::unique_ptr<SymbolSource> source)
-    : QQuickImageProvider(QQuickImageProvider::Image), source_(std::move(source)) {}
+SymbolImageProvider::SymbolImageProvider(std::unique_ptr<NativeLook> look)
+    : QQuickImageProvider(QQuickImageProvider::Image), look_(std::move(look)) {}
 
 QImage SymbolImageProvider::requestImage(const QString& id, QSize* size,
                                          const QSize& requestedSize) {
+    QImage made = image(id, completed(requestedSize));
+    if (size != nullptr) {
+        *size = made.size();
+    }
+    return made;
+}
+
+QImage SymbolImageProvider::image(const QString& id, QSize pixels) const {
+    if (id == QLatin1String("applicationIcon")) {
+        return look_->picture(SystemPicture::applicationIcon, pixels);
+    }
+    if (id == QLatin1String("arrowPointer")) {
+        return look_->picture(SystemPicture::arrowPointer, pixels);
+    }
     const QStringList fields = id.split(u'/');
     if (fields.size() != 3) {
         return {};
@@ -53,11 +67,7 @@ QImage SymbolImageProvider::requestImage(const QString& id, QSize* size,
     if (!weight || !tint) {
         return {};
     }
-    const QImage image = source_->symbol(fields[0], completed(requestedSize), *tint, *weight);
-    if (size != nullptr) {
-        *size = image.size();
-    }
-    return image;
+    return look_->symbol(fields[0], pixels, *tint, *weight);
 }
 
 }  // namespace velmora

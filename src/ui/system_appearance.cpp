@@ -1,6 +1,7 @@
 #include "ui/system_appearance.h"
 
 #include <QEvent>
+#include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
 
@@ -26,6 +27,10 @@ void SystemAppearance::setAnimated(bool animated) {
         return;
     animated_ = animated;
     Q_EMIT animatedChanged();
+}
+
+QString SystemAppearance::fontFamily() const {
+    return QGuiApplication::font().family();
 }
 
 bool SystemAppearance::eventFilter(QObject* watched, QEvent* event) {

@@ -32,7 +32,7 @@ const QStringList doorHeaders = {
     u"contacts/contact_source.h"_s,     u"contacts/contact_access.h"_s,
     u"history/account_preferences.h"_s, u"sending/script_runner.h"_s,
     u"sending/activity_source.h"_s,     u"app/desktop.h"_s,
-    u"app/product_pages.h"_s,           u"ui/symbol_source.h"_s,
+    u"app/product_pages.h"_s,           u"ui/native_look.h"_s,
 };
 
 struct Source {
@@ -44,7 +44,7 @@ struct Source {
 QList<Source> sources() {
     QList<Source> found;
     const QDir root(sourceRoot + u"/src"_s);
-    QDirIterator files(root.path(), {u"*.cpp"_s, u"*.h"_s, u"*.mm"_s}, QDir::Files,
+    QDirIterator files(root.path(), {u"*.cpp"_s, u"*.h"_s, u"*.mm"_s, u"*.qml"_s}, QDir::Files,
                        QDirIterator::Subdirectories);
     while (files.hasNext()) {
         QFile file(files.next());
@@ -98,7 +98,7 @@ TEST(Architecture, OnlyViewsAndPlatformsSeeTheWindowToolkit) {
 
 TEST(Architecture, PlatformConditionalsStayInThePlatformRoom) {
     static const QRegularExpression conditional(
-        u"^\\s*#\\s*(?:if|ifdef|ifndef|elif)\\b.*(?:__APPLE__|__linux__|_WIN32|Q_OS_|TARGET_OS)"_s,
+        u"^\\s*#\\s*(?:if|ifdef|ifndef|elif)\\b.*(?:__APPLE__|__linux__|__GLIBC__|_WIN32|Q_OS_|TARGET_OS)|\\bQt\\.platform\\b"_s,
         QRegularExpression::MultilineOption);
     for (const Source& source : sources()) {
         const bool isPlatform = source.room == u"platform";

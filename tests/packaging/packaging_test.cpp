@@ -2,13 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 
+#include "support/rehearsal_home.h"
+
 using namespace Qt::StringLiterals;
+using velmora::writeTestFile;
 
 namespace {
 
@@ -34,16 +39,22 @@ Outcome package(const QStringList& arguments) {
 
 // Catches a step that moved: nothing may change after it is sealed, and the ticket comes last.
 TEST(Package, ADryRunSignsInsideOutThenNotarisesThenStaples) {
-    const Outcome dry = package({u"--identity"_s, u"Developer ID Application: Ann Lee (TEAM)"_s,
-                                 u"--profile"_s, u"velmora"_s, u"--dry-run"_s});
+    const QFileInfo staging(sourceRoot + u"/build/package"_s);
+    const QDateTime before = staging.lastModified();
+    const Outcome dry =
+        package({u"--identity"_s, u"Developer ID Application: Ann Lee (TEAM)"_s, u"--profile"_s,
+                 u"velmora"_s, u"--app"_s, u"Other.app"_s, u"--dry-run"_s});
     ASSERT_EQ(dry.code, 0) << qPrintable(dry.errors);
-    const QStringList order = {u"ditto build/release/src/Velmora.app"_s,
-                               u"macdeployqt build/package/Velmora.app -qmldir=src/ui"_s,
-                               u"Contents/Frameworks"_s,
+    const QStringList order = {u"\nditto "_s + QDir::current().filePath(u"Other.app"_s),
+                               u"\nmacdeployqt build/package/Velmora.app -qmldir=src/ui"_s,
+                               u"\npackaging/macos/self-contained build/package/Velmora.app"_s,
+                               u"\nfind build/package/Velmora.app/Contents -depth"_s,
+                               u"-exec codesign --force"_s,
                                u"--entitlements packaging/macos/Velmora.entitlements"_s,
-                               u"codesign --verify --deep --strict"_s,
-                               u"hdiutil create"_s,
-                               u"Velmora.dmg"_s,
+                               u"\ncodesign --verify --deep --strict"_s,
+                               u"\nhdiutil create"_s,
+                               u"\ncodesign --force --timestamp --sign"_s,
+                               u"build/Velmora.dmg"_s,
                                u"notarytool submit build/Velmora.dmg --keychain-profile velmora"_s,
                                u"stapler staple build/Velmora.dmg"_s,
                                u"spctl --assess"_s};
@@ -52,10 +63,11 @@ TEST(Package, ADryRunSignsInsideOutThenNotarisesThenStaples) {
         const qsizetype found = dry.output.indexOf(step, place);
         ASSERT_GE(found, place) << qPrintable(step) << " is missing or out of order in\n"
                                 << qPrintable(dry.output);
-        place = found;
+        place = found + step.size();
     }
     EXPECT_EQ(dry.output.count(u"--entitlements"_s), 1) << "only the application gets them";
-    EXPECT_FALSE(QFile::exists(sourceRoot + u"/build/package"_s)) << "a dry run changed something";
+    EXPECT_EQ(QFileInfo(staging.filePath()).lastModified(), before)
+        << "a dry run changed something";
 }
 
 TEST(Package, WhatIsMissingIsNamedInOneSentence) {
@@ -63,9 +75,32 @@ TEST(Package, WhatIsMissingIsNamedInOneSentence) {
     EXPECT_EQ(package({u"--identity"_s, u"X"_s}).errors,
               u"Name notarytool's keychain profile with --profile."_s);
     EXPECT_EQ(package({u"--profile"_s}).errors, u"The argument --profile needs a value."_s);
-    const Outcome noTools = package({u"--identity"_s, u"X"_s, u"--profile"_s, u"Y"_s});
+    const QStringList named = {u"--identity"_s, u"X"_s, u"--profile"_s, u"Y"_s};
+    const QTemporaryDir folder(QDir::tempPath() + u"/XXXXXX.dmg"_s);
+    EXPECT_EQ(
+        package(named + QStringList{u"--output"_s, folder.path()}).errors,
+        folder.path() + u" cannot be the disk image; name a file ending in .dmg with --output."_s);
+    const Outcome noTools = package(named);
     EXPECT_EQ(noTools.code, 1);
     EXPECT_TRUE(noTools.errors.startsWith(u"The tool "_s)) << qPrintable(noTools.errors);
+}
+
+// Catches a check that passes a bundle that starts only where Homebrew is, or one it cannot read.
+TEST(Package, ABundleThatLoadsFromHomebrewIsRefused) {
+    const QTemporaryDir folder;
+    writeTestFile(folder.filePath(u"otool"_s), "#!/bin/sh\nshift\nexec cat \"$@\"\n");
+    QFile::setPermissions(folder.filePath(u"otool"_s), QFile::ReadOwner | QFile::ExeOwner);
+    for (const auto& [loads, code] :
+         std::map<QByteArray, int>{{"\t/usr/lib/x.dylib\n\t@rpath/y.dylib", 0},
+                                   {"\t/usr/lib/x.dylib\n\t/opt/homebrew/opt/y.dylib", 1},
+                                   {"", 1}}) {
+        writeTestFile(folder.filePath(u"Contents/MacOS/Velmora"_s), "Velmora:\n" + loads);
+        EXPECT_EQ(run(u"env"_s, {u"PATH="_s + folder.path() + u':' + qEnvironmentVariable("PATH"),
+                                 sourceRoot + u"/packaging/macos/self-contained"_s, folder.path()})
+                      .code,
+                  code)
+            << loads.constData();
+    }
 }
 
 // The keys and values of a property list's dictionary, a value as its text or its element's name.

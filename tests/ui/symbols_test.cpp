@@ -5,7 +5,7 @@
 #include <numeric>
 #include <vector>
 
-#include "ui/svg_symbol_source.h"
+#include "ui/drawn_look.h"
 #include "ui/symbol_image_provider.h"
 
 namespace velmora {
@@ -29,7 +29,7 @@ double coverage(const QImage& image) {
 // Catches a drawing without content, in its own color or cut off, and a light one as thick as
 // usual.
 TEST(Symbols, areTintedOnTheirGridAndThinnerWhenLight) {
-    const SvgSymbolSource source;
+    const DrawnLook source;
     const QStringList files = QDir(QStringLiteral(":/velmora/symbols")).entryList();
     ASSERT_FALSE(files.isEmpty());
     for (const QString& file : files) {
@@ -50,7 +50,7 @@ TEST(Symbols, areTintedOnTheirGridAndThinnerWhenLight) {
 
 // Catches a symbol that is stretched, in another color, or taken from a wrong address.
 TEST(Symbols, theProviderReadsItsAddressAndRefusesAnyOther) {
-    SymbolImageProvider provider(std::make_unique<SvgSymbolSource>());
+    SymbolImageProvider provider(std::make_unique<DrawnLook>());
     QSize size;
     const auto request = [&](const char* id, QSize requested) {
         return provider.requestImage(QString::fromLatin1(id), &size, requested);
@@ -62,6 +62,19 @@ TEST(Symbols, theProviderReadsItsAddressAndRefusesAnyOther) {
     EXPECT_EQ(request("iphone/light/000000ff", {0, 42}).size(), QSize(42, 42));
     for (const char* id : {"no.such.symbol/regular/000000ff", "iphone/heavy/000000ff", "iphone"})
         EXPECT_TRUE(request(id, {16, 16}).isNull()) << id;
+}
+
+// Catches a picture that is stretched, off its place or of another scale, and one without a size.
+TEST(Pictures, anIconIsCentredAndAPointerHasItsTipInTheCorner) {
+    SymbolImageProvider provider(std::make_unique<DrawnLook>());
+    const QImage icon = provider.requestImage(QStringLiteral("applicationIcon"), nullptr, {80, 40});
+    EXPECT_EQ(coverage(icon.copy(0, 0, 20, 40)) + coverage(icon.copy(60, 0, 20, 40)), 0);
+    EXPECT_GT(coverage(icon.copy(20, 0, 40, 40)), 900);
+    const QImage arrow = provider.requestImage(QStringLiteral("arrowPointer"), nullptr, {64, 64});
+    EXPECT_NEAR(coverage(arrow), coverage(arrow.copy(0, 0, 28, 40)), 1e-6);
+    EXPECT_GT(coverage(arrow.copy(0, 0, 4, 4)), 12) << "the tip is elsewhere";
+    EXPECT_GT(coverage(arrow.copy(0, 32, 28, 8)), 8) << "too small";
+    EXPECT_TRUE(DrawnLook().picture(SystemPicture::applicationIcon, {0, 5}).isNull());
 }
 
 }  // namespace

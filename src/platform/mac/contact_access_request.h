@@ -1,6 +1,7 @@
 #pragma once
 
 #import <Contacts/Contacts.h>
+#include <dispatch/dispatch.h>
 
 #include <coroutine>
 

@@ -4,6 +4,7 @@
 #include "platform/mac/contact_access_request.h"
 #include "platform/mac/doors.h"
 #include "platform/mac/native_text.h"
+#include "platform/mac/phone_labels.h"
 
 namespace velmora {
 
@@ -28,8 +29,7 @@ ContactRecord recordOf(CNContact* contact) {
                          .phoneNumbers = {},
                          .emailAddresses = {}};
     for (CNLabeledValue<CNPhoneNumber*>* phone in contact.phoneNumbers)
-        record.phoneNumbers.push_back(
-            {optionalTextOf(phone.label), textOf(phone.value.stringValue)});
+        record.phoneNumbers.push_back({phoneLabelOf(phone.label), textOf(phone.value.stringValue)});
     for (CNLabeledValue<NSString*>* address in contact.emailAddresses)
         record.emailAddresses.append(textOf(address.value));
     return record;
@@ -88,7 +88,7 @@ class MacContactSource final : public ContactSource {
     }
 
     QString localizedLabel(const QString& label) const override {
-        return textOf([CNLabeledValue localizedStringForLabel:nativeText(label)]);
+        return textOf([CNLabeledValue localizedStringForLabel:nativePhoneLabel(label)]);
     }
 
    private:

@@ -1,6 +1,6 @@
 #include "platform/mac/doors.h"
+#include "platform/mac/mac_look.h"
 #include "platform/mac/native_text.h"
-#include "platform/mac/system_symbol_source.h"
 #include "platform/platform.h"
 
 namespace velmora {
@@ -15,7 +15,7 @@ Platform makePlatform(Clock&) {
     platform.scripts = makeMacScriptRunner();
     platform.accountPreferences = makeMacAccountPreferences();
     platform.desktop = makeMacDesktop();
-    platform.symbols = makeSystemSymbolSource();
+    platform.look = makeMacLook();
     platform.home = textOf(NSHomeDirectory());
     NSArray<NSURL*>* folders =
         [NSFileManager.defaultManager URLsForDirectory:NSApplicationSupportDirectory

@@ -41,7 +41,7 @@ FocusScope {
         Image {
             Layout.alignment: Qt.AlignHCenter
             Layout.bottomMargin: 6
-            source: "qrc:/velmora/icon/velmora.svg"
+            source: "image://symbol/applicationIcon"
             sourceSize.width: 56
             sourceSize.height: 56
             Accessible.ignored: true

@@ -83,7 +83,7 @@ Item {
             Image {
                 x: 10
                 y: 9
-                source: "qrc:/velmora/icon/velmora.svg"
+                source: "image://symbol/applicationIcon"
                 sourceSize.width: 26
                 sourceSize.height: 26
             }
@@ -119,9 +119,9 @@ Item {
             }
         }
         Image {
-            source: "qrc:/velmora/icon/arrow_pointer.svg"
-            sourceSize.width: 14
-            sourceSize.height: 20
+            source: "image://symbol/arrowPointer"
+            sourceSize.width: 32
+            sourceSize.height: 32
             x: timeline.pointerX
             y: timeline.pointerY
             scale: timeline.pointerScale

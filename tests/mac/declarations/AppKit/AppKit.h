@@ -10,11 +10,12 @@ typedef struct CGSize {
     CGFloat width;
     CGFloat height;
 } NSSize;
+typedef struct CGPoint {
+    CGFloat x;
+    CGFloat y;
+} NSPoint;
 typedef struct CGRect {
-    struct {
-        CGFloat x;
-        CGFloat y;
-    } origin;
+    NSPoint origin;
     NSSize size;
 } NSRect;
 NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat width, CGFloat height);
@@ -38,6 +39,7 @@ void CGContextRelease(CGContextRef context);
 
 @interface NSWorkspace : NSObject
 @property(class, readonly) NSWorkspace *sharedWorkspace;
+@property(readonly) BOOL accessibilityDisplayShouldReduceMotion;
 - (BOOL)openURL:(NSURL *)url;
 - (NSURL *)URLForApplicationWithBundleIdentifier:(NSString *)identifier;
 - (void)openApplicationAtURL:(NSURL *)url
@@ -70,4 +72,15 @@ enum : NSUInteger { NSCompositingOperationSourceOver = 2 };
 @interface NSGraphicsContext : NSObject
 @property(class) NSGraphicsContext *currentContext;
 + (NSGraphicsContext *)graphicsContextWithCGContext:(CGContextRef)context flipped:(BOOL)flipped;
+@end
+
+@interface NSCursor : NSObject
+@property(class, readonly) NSCursor *arrowCursor;
+@property(readonly) NSImage *image;
+@property(readonly) NSPoint hotSpot;
+@end
+
+@interface NSApplication : NSObject
+@property(class, readonly) __kindof NSApplication *sharedApplication;
+@property NSImage *applicationIconImage;
 @end

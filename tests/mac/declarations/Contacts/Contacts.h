@@ -21,6 +21,10 @@ extern NSString *const CNContactOrganizationNameKey;
 extern NSString *const CNContactPhoneNumbersKey;
 extern NSString *const CNContactEmailAddressesKey;
 
+extern NSString *const CNLabelPhoneNumberMobile;
+extern NSString *const CNLabelPhoneNumberiPhone;
+extern NSString *const CNLabelPhoneNumberMain;
+
 @class NSPredicate;
 
 @interface CNPhoneNumber : NSObject <NSCopying>

@@ -113,7 +113,3 @@ CFPropertyListRef CFPreferencesCopyAppValue(CFStringRef key, CFStringRef applica
 static inline id CFBridgingRelease(CFTypeRef __attribute__((cf_consumed)) value) {
     return (__bridge_transfer id)value;
 }
-
-typedef NSObject *dispatch_queue_t;
-dispatch_queue_t dispatch_get_main_queue(void);
-void dispatch_async(dispatch_queue_t queue, void (^block)(void));
