@@ -82,12 +82,15 @@ void runOf60(benchmark::State& state) {
     double seconds = 0;
     for (auto _ : state) {
         state.PauseTiming();
-        const auto home = std::make_unique<RunHome>();
+        auto home = std::make_unique<RunHome>();
         VirtualSurroundings world;
         paused = 0;
         state.ResumeTiming();
         run(home->path(), world, paused);
         seconds = world.clock.uptime();
+        state.PauseTiming();
+        home.reset();
+        state.ResumeTiming();
     }
     state.counters["pauses"] = static_cast<double>(paused);
     state.counters["simulated_s"] = seconds;
@@ -100,6 +103,10 @@ BENCHMARK(runOf60)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
+    // As in the application, whose platform decides how memory is kept before any history is open.
+    velmora::VirtualSurroundings world;
+    const velmora::Platform platform =
+        velmora::makeRehearsalPlatform(world.clock, QDir::tempPath());
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
