@@ -95,9 +95,8 @@ QString messagesHistoryPath(const QString& home) {
 
 std::expected<MessagesDB, DBError> MessagesDB::open(const QString& path) {
     sqlite3* connection = nullptr;
-    // One thread uses it at a time, so it needs no locks of its own.
-    constexpr int flags = SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX;
-    const int code = sqlite3_open_v2(path.toUtf8().constData(), &connection, flags, nullptr);
+    const int code =
+        sqlite3_open_v2(path.toUtf8().constData(), &connection, SQLITE_OPEN_READONLY, nullptr);
     MessagesDB history{std::unique_ptr<sqlite3, Closer>(connection)};
     if (code != SQLITE_OK) {
         const QString message = connection != nullptr
