@@ -49,13 +49,15 @@ void endTornLine(const QString& path) {
     static_cast<void>(replaceFile(path, kept + (isQuoteOpen ? "\"\n" : "\n")));
 }
 
-// Calls `take` with the reader at each row of the file that is an entry.
-template <class Take>
-void readEntryRows(const QString& path, const Take& take) {
+// The text of the file; empty when there is none or it is no UTF-8.
+QString logText(const QString& path) {
     const auto bytes = readFile(path);
-    if (!bytes || !bytes->isValidUtf8())
-        return;
-    const QString text = QString::fromUtf8(*bytes);
+    return bytes && bytes->isValidUtf8() ? QString::fromUtf8(*bytes) : QString();
+}
+
+// Calls `take` with the reader at each row of the text that is an entry.
+template <class Take>
+void readEntryRows(const QString& text, const Take& take) {
     CSVReader rows(text);
     if (!rows.nextRow())
         return;
@@ -104,20 +106,20 @@ void SendLog::rewrite(const QString& batch, const std::vector<LogEntry>& entries
 }
 
 std::vector<LogEntry> SendLog::load(const QString& batch) {
+    const QString text = logText(logFile(batch));
     std::vector<LogEntry> entries;
-    LogEntry previous;
-    readEntryRows(logFile(batch), [&](const CSVReader& row) {
-        previous = entryOf(row, previous);
+    entries.reserve(static_cast<size_t>(text.count(u'\n')));
+    readEntryRows(text, [&](const CSVReader& row) {
         const auto time = parseLogTime(row.field(Column::time));
-        previous.time = time ? *time : clock_.now();
-        entries.push_back(previous);
+        entries.push_back(entryOf(row, entries.empty() ? LogEntry() : entries.back()));
+        entries.back().time = time ? *time : clock_.now();
     });
     return entries;
 }
 
 QSet<QString> SendLog::alreadySent(const QString& batch) {
     QStringList phones;
-    readEntryRows(logFile(batch), [&](const CSVReader& row) {
+    readEntryRows(logText(logFile(batch)), [&](const CSVReader& row) {
         if (isSentStatus(row.field(Column::status)))
             phones += row.field(Column::phone).toString();
     });

@@ -37,9 +37,7 @@ CREATE TABLE IF NOT EXISTS chat_handle_join (
 CREATE TABLE IF NOT EXISTS chat_message_join (
     chat_id INTEGER, message_id INTEGER, PRIMARY KEY (chat_id, message_id));
 CREATE INDEX IF NOT EXISTS message_idx_handle ON message (handle_id, date);
-CREATE INDEX IF NOT EXISTS message_idx_date ON message (date);
 CREATE INDEX IF NOT EXISTS chat_handle_join_idx_handle_id ON chat_handle_join (handle_id);
-CREATE INDEX IF NOT EXISTS chat_message_join_idx_message_id ON chat_message_join (message_id);
 )sql";
 
 // In the order of HistoryWriter::Command.
