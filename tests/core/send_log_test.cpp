@@ -93,19 +93,27 @@ TEST_F(SendLogTest, OddRowsAndDamagedFilesAreReadAsFarAsTheyGo) {
     EXPECT_EQ(phones(), (QStringList{u"+1"_s, QString(u"+2\0"_s), u"+1"_s}));
 }
 
-// After a loss of power the next person's line would become a part of the torn one, and that person
-// be texted again.
+// After a loss of power the next person's line would become a part of the torn one, or the whole
+// file unreadable, and people be texted again: in a folder that takes no new file, too.
 TEST_F(SendLogTest, ATornLastLineSwallowsNoOther) {
-    for (const QByteArray& torn : {row, row + "sent,\"half a det", row + "sent,\"a \"", row.left(9),
-                                   row + "sent,Chlo\xc3"}) {
+    const QString path = log.logFile(u"Party"_s);
+    for (const QByteArray& torn :
+         {row, row + "sent,\"half a det", row + "sent,\"half a det\n", row + "sent,\"a \"",
+          row.left(9), row + "sent,Chlo\xc3", row + "sent,\"\xf0\x9f\x8e"}) {
         put(header + row + "sent,\n" + torn);
+        ASSERT_TRUE(QFile::setPermissions(path, QFile::Permissions(0x6666)));
+        ASSERT_TRUE(QFile::setPermissions(home.folder.logs(), QFile::Permissions(0x5555)));
+        ASSERT_TRUE(QFile::setPermissions(home.folder.path(), QFile::Permissions(0x7755)));
+        const OrdinaryUser user;
+        EXPECT_EQ(log.alreadySent(u"Party"_s), QSet{u"+1"_s}) << torn.constData();
         log.append(entry(u"+3"_s));
-        EXPECT_TRUE(log.alreadySent(u"Party"_s).contains(u"+3"_s)) << torn.constData();
-        EXPECT_TRUE(log.alreadySent(u"Party"_s).contains(u"+1"_s));
+        EXPECT_EQ(log.alreadySent(u"Party"_s), (QSet{u"+1"_s, u"+3"_s})) << torn.constData();
     }
-    put("");
-    log.append(entry(u"+3"_s, u"sent"_s));
-    EXPECT_TRUE(log.alreadySent(u"Party"_s).contains(u"+3"_s)) << "taken for the header";
+    for (const QByteArray nothing : {"", "\xc3"}) {
+        put(nothing);
+        log.append(entry(u"+3"_s));
+        EXPECT_EQ(file().left(header.size()), header) << "taken for the header";
+    }
 }
 
 TEST_F(SendLogTest, FailedWritesLeaveTheFileWhole) {
