@@ -21,7 +21,6 @@ TEST(SplitVersions, EmptyVersionsVanishAndOthersAreTrimmed) {
     EXPECT_EQ(splitVersions(u"---\n\n A\n\n b \r\n---\n---\nB\n---"_s),
               (QStringList{u"A\n\n b"_s, u"B"_s}));
     EXPECT_EQ(splitVersions(u"\u200bA"_s), QStringList{u"\u200bA"_s});
-    EXPECT_EQ(splitVersions(defaultTemplate()).size(), 2);
 }
 
 // Another hash would give people another version after an update.
@@ -54,6 +53,18 @@ TEST(RenderText, PutsInNameAndNote) {
               u"{First_name} { first_name}"_s);
     EXPECT_EQ(renderText(u"{first_name}"_s, u"{custom_note}"_s, u"x {first_name}"_s),
               u"x {first_name}"_s);
+}
+
+// Every list without a message of its own sends these.
+TEST(DefaultTemplate, IsTwoTexts) {
+    const QStringList versions = splitVersions(defaultTemplate());
+    ASSERT_EQ(versions.size(), 2);
+    EXPECT_EQ(renderText(versions[0], u"Ann"_s, {}),
+              u"Hey Ann, it's Robin. Something special is coming up and I'm only telling a few "
+              "people. Want in?"_s);
+    EXPECT_EQ(renderText(versions[1], u"Ann"_s, u"See you!"_s),
+              u"Ann! Robin here. I've got a private thing coming up and you were one of the first "
+              "people I thought of. Interested? See you!"_s);
 }
 
 TEST(IsPersonalised, WhenTextsMayDiffer) {

@@ -195,7 +195,10 @@ TEST(ParseCSV, ReadsBackWhateverIsWritten) {
 // A time an hour off after a change of the clocks, or a row that is not understood.
 TEST(LogTime, CarriesTheOffsetOfItsDay) {
     EXPECT_EQ(formatLogTime({763657200.99}), u"2025-03-14T11:00:00-04:00"_s);
-    EXPECT_EQ(formatLogTime({-0.5}), u"2000-12-31T18:59:59-05:00"_s);
+    EXPECT_EQ(formatLogTime({-0.5}, 0), u"2000-12-31T23:59:59Z"_s);
+    EXPECT_EQ(formatLogTime({-0.5}, 60), u"2001-01-01T00:59:59+01:00"_s);
+    EXPECT_EQ(formatLogTime({-0.5}, 345), u"2001-01-01T05:44:59+05:45"_s);
+    EXPECT_EQ(formatLogTime({-0.5}, -210), u"2000-12-31T20:29:59-03:30"_s);
     EXPECT_EQ(formatLogTime({std::numeric_limits<double>::infinity()}).left(4), u"9999"_s);
     const double autumn = 783928800;  // 2025-11-04 06:00 UTC
     for (double hour = -72; hour < 0; ++hour) {

@@ -134,6 +134,7 @@ TEST_F(MessagesDBTest, ThreadIsTheNewestGoodMessageOfAOneToOneChat) {
 
 TEST_F(MessagesDBTest, LastSentIsTheNewestFromMeSinceThen) {
     record({.handle = u"15551234567"_s, .date = 5, .error = 22});
+    EXPECT_EQ(open().lastSent(annsPhone, 5).value().value_or(SentRecord()).error, 22);
     record({.handle = annsPhone, .service = u"SMS"_s, .line = u"+1"_s, .date = 7, .sent = true});
     record({.handle = annsPhone, .date = 9, .fromMe = false});
     record({.handle = u"+15550000000"_s, .date = 9});

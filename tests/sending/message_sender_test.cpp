@@ -38,8 +38,9 @@ TEST(MessageSender, TellsWhyATextCouldNotBeHandedOver) {
     const std::vector<std::pair<ScriptResult, QString>> answers = {
         {{Outcome::success, {}}, u"sent"_s},
         {{Outcome::notPrepared, {}}, u"Couldn't prepare the Messages script."_s},
-        {{Outcome::failure, {}}, u"Messages reported an error."_s},
-        {{Outcome::failure, u"Can't get participant."_s}, u"Can't get participant."_s},
+        {scriptFailure({}), u"Messages reported an error."_s},
+        {scriptFailure(7), u"Messages reported an error."_s},
+        {scriptFailure(u"Can't get participant."_s), u"Can't get participant."_s},
     };
     for (const auto& [answer, description] : answers) {
         scripts.answer = answer;
