@@ -135,11 +135,11 @@ TEST_F(RunnerTest, TakesAnAnswerAtAnyMoment) {
     EXPECT_EQ(scripts.count, 0);
 
     {
-        QObject stopper;
-        QObject::connect(runner.get(), &Runner::messageChanged, &stopper,
-                         [this] { runner->stop(); });
-        const auto neverPaused = [this] { EXPECT_NE(runner->state.value(), State::paused); };
-        QObject::connect(runner.get(), &Runner::stateChanged, &stopper, neverPaused);
+        QObject all;
+        const auto stop = [this] { runner->stop(); };
+        const auto expectUnpaused = [this] { EXPECT_NE(runner->state.value(), State::paused); };
+        QObject::connect(runner.get(), &Runner::messageChanged, &all, stop);
+        QObject::connect(runner.get(), &Runner::stateChanged, &all, expectUnpaused);
         runAll(2);
         expectDone(u"Stopped after 0 of 2."_s);
     }

@@ -164,7 +164,6 @@ TEST_F(VerificationTest, ARunWithoutTheHistoryEndsUnverified) {
     for (size_t n = 0; n < 4; ++n)
         EXPECT_EQ(outcome(n), u"sent_unverified|iMessage||"_s + noRecord);
     EXPECT_NEAR(clock().now().seconds - runner->log()[3].time.seconds, 120, 0.01);
-    runner->disconnect();
     runAll(4);
     expectDone(u"Finished. 0 of 0 processed."_s);
 }
@@ -186,12 +185,11 @@ TEST_F(VerificationTest, ALoadedLogIsSettledByTheHistory) {
     }
     const qint64 now = historyTimestamp(clock().now());
     const auto record = [&](int person, qint64 secondsAgo, bool delivered) {
-        HistoryMessage message{.handle = phone(person)};
-        message.service = person == 1 ? u"SMS"_s : QString();
-        message.line = otherLine;
-        message.date = now - secondsAgo * 1'000'000'000;
-        message.delivered = delivered;
-        home.record(message);
+        home.record({.handle = phone(person),
+                     .service = person == 1 ? u"SMS"_s : QString(),
+                     .line = otherLine,
+                     .date = now - secondsAgo * 1'000'000'000,
+                     .delivered = delivered});
     };
     record(2, 121, true);
     record(3, 10, false);
