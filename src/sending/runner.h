@@ -74,7 +74,8 @@ class Runner final : public QObject {
     void resume();
 
     /// Replaces `log` by the stored lines of `batch` and settles those that the history has
-    /// confirmed since. Called only while no run is active: a run's own lines would be lost to it.
+    /// confirmed since. Called only while no run is active: reading gives every line another id,
+    /// by which a run finds its own again.
     void reloadLog();
 
     /// The send-log lines of `batch`: earlier runs' first, then this run's in the order they were
