@@ -66,10 +66,16 @@ class AppModel final : public QObject {
     /// Chooses the number to send from and, when it is another, checks the chosen list against it.
     /// Does nothing during a run.
     void setSenderNumber(const QString& number);
+    /// Stores that the terms are accepted, then since when: two changes of the settings.
     void acceptTerms();
     [[nodiscard]] bool termsAccepted() const;
-    /// Today at the field's time; 10:00 when its text cannot be read.
+    /// Today at the field's time: the next time that exists where the clocks jump over it, the
+    /// first of two where it comes twice; 10:00 when the field's text cannot be read, now when the
+    /// calendar has no such moment (such as 25:99).
     [[nodiscard]] QDateTime timeOfDay(QuietField field) const;
+    /// Stores `hour` (0 to 23) and `minute` (0 to 59) as the field's text, such as "07:05".
+    void setTimeOfDay(int hour, int minute, QuietField field);
+    /// The same with the hour and the minute that `time` has here, 00:00 for an invalid one.
     void setTimeOfDay(const QDateTime& time, QuietField field);
 
     // Start-up, permissions and the desktop.
@@ -78,9 +84,12 @@ class AppModel final : public QObject {
     QCoro::Task<> bootstrap();
     /// Reads the user's sending numbers and with them whether the history can be read.
     void refreshNumbers();
+    /// Reads the groups and all counts afresh. Groups that cannot be read stay as they were and put
+    /// a sentence into `alert`; people who cannot be counted are 0.
     void loadGroups();
     /// Asks whoever shows windows for the settings window.
     void openSettings();
+    // What the desktop is asked to open; where it cannot, nothing happens and nobody is told.
     void openContactsSettings();
     void openFullDiskAccessSettings();
     void openMessages();
@@ -112,7 +121,10 @@ class AppModel final : public QObject {
     void setSelection(const QSet<QString>& selection);
     /// Checks or unchecks one person.
     void setSelected(const QString& id, bool selected);
+    /// Checks everyone shown who can be sent and was not sent yet. Does nothing during a run.
     void selectShown();
+    /// Unchecks everyone shown; everyone at all while neither search nor filter hides anybody. Does
+    /// nothing during a run.
     void clearShown();
     /// Stores the note as typed; an empty one is removed.
     void setNote(const QString& id, const QString& note);
@@ -121,9 +133,13 @@ class AppModel final : public QObject {
 
     // The message.
 
+    /// The chosen list's message: the built-in one when it has none of its own, empty without a
+    /// list.
     [[nodiscard]] QString currentTemplate() const;
+    /// Stores the chosen list's message and renders every text again. Does nothing without a list;
+    /// the texts of a run that is active stay as they are.
     void setCurrentTemplate(const QString& text);
-    /// Adds `snippet` at the end of the message.
+    /// Adds `snippet` at the end of the message, as `setCurrentTemplate` does.
     void appendToTemplate(const QString& snippet);
     [[nodiscard]] bool isPersonalised() const;
 
@@ -131,11 +147,21 @@ class AppModel final : public QObject {
 
     /// The sentence that says why no run can start, or nothing.
     [[nodiscard]] std::optional<QString> validationError() const;
+    /// Sets `confirmingRun`, or `alert` to why no run can start, at the event loop's next turn.
+    /// Does nothing during a run and before the terms are accepted.
     void requestRun();
+    /// Ends the confirmation and starts the run. A run name edited meanwhile has the list loaded
+    /// first; when that unchecks anyone, nothing is sent and `alert` says so. Called only while no
+    /// run is active.
     void confirmRun();
+    /// Starts a run of everyone checked who can be sent, or sets `alert` to why none can start.
+    /// While one is active, that one goes on alone.
     void startRun();
     /// The first checked person that can be sent, in the list's order.
     [[nodiscard]] std::optional<Recipient> exampleRecipient() const;
+    /// Sends the fixed test text to `testPhone` over iMessage and says in `testResult` what became
+    /// of it, after at most `verifyWait` seconds and one reading more. Does nothing during a run;
+    /// the caller sees to it that no two tests overlap.
     QCoro::Task<> sendTest();
 
     [[nodiscard]] Runner& runner() { return runner_; }
@@ -222,7 +248,7 @@ class AppModel final : public QObject {
 
     // The message (app_model_message.cpp).
     void refreshText(const QString& id);
-    void renderTexts(std::vector<Recipient>& list) const;
+    void refreshTexts(std::vector<Recipient>& list) const;
     [[nodiscard]] QString textFor(const Recipient& recipient, const QStringList& versions) const;
 
     // The run (app_model_run.cpp).

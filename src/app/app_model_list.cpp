@@ -58,7 +58,7 @@ std::vector<Recipient> AppModel::checked(const std::vector<ContactRecord>& peopl
 }
 
 void AppModel::publish(std::vector<Recipient> list) {
-    renderTexts(list);
+    refreshTexts(list);
     recipients_ = std::move(list);
     search_ = RecipientSearch(recipients_);
     Q_EMIT recipientsReplaced();

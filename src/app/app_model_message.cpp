@@ -13,7 +13,7 @@ void AppModel::setCurrentTemplate(const QString& text) {
     if (!config_.selectedGroupID)
         return;
     editConfig([&](AppConfig& config) { config.templates.insert(*config.selectedGroupID, text); });
-    renderTexts(recipients_);
+    refreshTexts(recipients_);
     Q_EMIT recipientTextsChanged();
 }
 
@@ -37,7 +37,7 @@ void AppModel::refreshText(const QString& id) {
     }
 }
 
-void AppModel::renderTexts(std::vector<Recipient>& list) const {
+void AppModel::refreshTexts(std::vector<Recipient>& list) const {
     const QStringList versions = TemplateRenderer::splitVersions(currentTemplate());
     for (Recipient& recipient : list)
         recipient.text = textFor(recipient, versions);

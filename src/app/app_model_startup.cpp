@@ -96,12 +96,16 @@ QDateTime AppModel::timeOfDay(QuietField field) const {
     return moment.isValid() ? moment : now;
 }
 
+void AppModel::setTimeOfDay(int hour, int minute, QuietField field) {
+    const QString text = QStringLiteral("%1:%2")
+                             .arg(hour, 2, 10, QLatin1Char('0'))
+                             .arg(minute, 2, 10, QLatin1Char('0'));
+    editConfig([&](AppConfig& config) { config.*settingOf(field) = text; });
+}
+
 void AppModel::setTimeOfDay(const QDateTime& time, QuietField field) {
     const QTime clock = time.isValid() ? time.toLocalTime().time() : QTime(0, 0);
-    const QString text = QStringLiteral("%1:%2")
-                             .arg(clock.hour(), 2, 10, QLatin1Char('0'))
-                             .arg(clock.minute(), 2, 10, QLatin1Char('0'));
-    editConfig([&](AppConfig& config) { config.*settingOf(field) = text; });
+    setTimeOfDay(clock.hour(), clock.minute(), field);
 }
 
 void AppModel::openSettings() {

@@ -60,7 +60,8 @@ class ContactSource {
     /// thread; an error counts as false.
     [[nodiscard]] virtual QCoro::Task<bool> requestAccess() = 0;
 
-    /// Hands every unified contact to `visit`, in the store's order.
+    /// Hands every unified contact to `visit`, in the store's order. Fails when the address book
+    /// cannot be read, possibly after some were handed out.
     [[nodiscard]] virtual std::expected<void, ContactsError> enumerateContacts(
         const std::function<void(ContactRecord)>& visit) = 0;
 
@@ -69,6 +70,7 @@ class ContactSource {
     [[nodiscard]] virtual std::expected<std::vector<ContactRecord>, ContactsError> membersOfGroup(
         const QString& identifier) = 0;
 
+    /// Every group, in the store's order. Fails when the address book cannot be read.
     [[nodiscard]] virtual std::expected<std::vector<GroupRecord>, ContactsError> allGroups() = 0;
 
     /// The word for a raw label in the user's language; a custom label comes back as itself.

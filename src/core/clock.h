@@ -20,7 +20,8 @@ class Clock {
     [[nodiscard]] virtual double uptime() const = 0;
 
     /// Calls `action` once on this thread, `seconds` from now; at the event loop's next turn when
-    /// that is 0 or less. Never calls before it returns.
+    /// that is 0 or less. A clock may call earlier what is more than 23 days away. Never calls
+    /// before it returns.
     virtual void after(double seconds, std::function<void()> action) = 0;
 };
 

@@ -56,17 +56,22 @@ int scanTimeOfDay(Scanner& scanner) {
     return hours * secondsPerHour + scanner.number(2, 0, 59) * secondsPerMinute;
 }
 
-}  // namespace
-
-QString formatLogTime(Moment moment) {
+QDateTime utcTime(Moment moment) {
     // From the year 1 to 9999, which is what four digits and the calendar hold.
     constexpr double earliest = -62135510400.0;
     constexpr double latest = 253402214400.0;
     const double unixTime = std::clamp(moment.seconds + referenceEpoch, earliest, latest);
-    const auto seconds = static_cast<qint64>(std::floor(unixTime));
-    const QDateTime utc = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
-    const int offset = logZone().offsetFromUtc(utc) / secondsPerMinute;
-    const QDateTime local = utc.addSecs(qint64{offset} * secondsPerMinute);
+    return QDateTime::fromSecsSinceEpoch(static_cast<qint64>(std::floor(unixTime)), Qt::UTC);
+}
+
+}  // namespace
+
+QString formatLogTime(Moment moment) {
+    return formatLogTime(moment, logZone().offsetFromUtc(utcTime(moment)) / secondsPerMinute);
+}
+
+QString formatLogTime(Moment moment, int offset) {
+    const QDateTime local = utcTime(moment).addSecs(qint64{offset} * secondsPerMinute);
     const QDate date = local.date();
     const QTime time = local.time();
     const QString text =

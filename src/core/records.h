@@ -78,7 +78,7 @@ struct SentRecord {
 /// One line of the send log.
 struct LogEntry {
     QUuid id;     ///< identity in this process; made afresh whenever the line is read, never stored
-    Moment time;  ///< when the send was made
+    Moment time;  ///< when the wait for the history ended, shortly after the send
     QString batch;
     QString name;
     QString phone;
@@ -86,9 +86,6 @@ struct LogEntry {
     QString line;     ///< the user's line that the text left on, when known
     QString status;   ///< "sent", "sent_unverified" or "failed"
     QString detail;   ///< a sentence on the status; may be empty
-
-    /// True for every status that keeps a person from being texted again under this run name.
-    [[nodiscard]] bool countsAsSent() const { return isSentStatus(status); }
 };
 
 /// The service through which a text is sent.

@@ -22,36 +22,39 @@ const QString& headerLine() {
     return text;
 }
 
-bool isTorn(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.size() > 0 && file.seek(file.size() - 1) &&
-           file.read(1) != "\n";
+// How many bytes a last character has of which only the first part is there, as a loss of power in
+// the middle of a write leaves it.
+qsizetype halfCharacterSize(const QByteArray& bytes) {
+    qsizetype begin = bytes.size() - 1;
+    while (begin > 0 && (bytes[begin] & 0xC0) == 0x80)
+        --begin;
+    const bool isHalf =
+        begin >= 0 && (bytes[begin] & 0xC0) == 0xC0 && !bytes.sliced(begin).isValidUtf8();
+    return isHalf ? bytes.size() - begin : 0;
 }
 
-// The bytes without a last character of which only the first part is there.
-QByteArray withoutHalfCharacter(const QByteArray& bytes) {
-    const auto isContinuation = [](char byte) { return (byte & 0xC0) == 0x80; };
-    qsizetype start = bytes.size();
-    while (start > 0 && isContinuation(bytes[start - 1]))
-        --start;
-    const bool isWhole = bytes.sliced(std::max<qsizetype>(start - 1, 0)).isValidUtf8();
-    return isWhole || start == 0 ? bytes : bytes.first(start - 1);
+// What has to go from the end of a torn file and what has to come there before another line, which
+// would otherwise become a part of the torn one.
+struct Repair {
+    qsizetype surplus = 0;
+    QByteArray ending;
+};
+
+Repair repairOf(const QByteArray& bytes) {
+    const qsizetype surplus = halfCharacterSize(bytes);
+    const QByteArray kept = bytes.chopped(surplus);
+    // Every quote opens or closes, a doubled one both.
+    if (kept.count('"') % 2 != 0)
+        return {surplus, "\"\n"};
+    return {surplus, kept.isEmpty() || kept.endsWith('\n') ? "" : "\n"};
 }
 
-// Ends a last line that was cut off in the middle, such as by a loss of power: the next line must
-// not become a part of it, and half a character would make the whole file unreadable.
-void endTornLine(const QString& path) {
-    const auto bytes = readFile(path);
-    if (!bytes)
-        return;
-    const QByteArray kept = withoutHalfCharacter(*bytes);
-    const bool isQuoteOpen = kept.count('"') % 2 != 0;
-    static_cast<void>(replaceFile(path, kept + (isQuoteOpen ? "\"\n" : "\n")));
-}
-
-// The text of the file; empty when there is none or it is no UTF-8.
+// The text of the file, up to a half character at its end; empty when there is none or it is no
+// UTF-8.
 QString logText(const QString& path) {
-    const auto bytes = readFile(path);
+    auto bytes = readFile(path);
+    if (bytes)
+        bytes->chop(halfCharacterSize(*bytes));
     return bytes && bytes->isValidUtf8() ? QString::fromUtf8(*bytes) : QString();
 }
 
@@ -89,12 +92,12 @@ LogEntry entryOf(const CSVReader& row, const LogEntry& previous) {
 void SendLog::append(const LogEntry& entry) {
     const QString path = logFile(entry.batch);
     const QByteArray line = csvLine(entry).toUtf8();
-    if (isTorn(path))
-        endTornLine(path);
+    const Repair repair = repairOf(readFile(path).value_or(QByteArray()));
     // An empty file needs the header, too: its first line is skipped when it is read.
-    const bool isEmpty = QFileInfo(path).size() == 0;
-    const QByteArray bytes = (isEmpty ? headerLine().toUtf8() : QByteArray()) + line;
-    const auto done = QFile::exists(path) ? appendToFile(path, bytes) : replaceFile(path, bytes);
+    const bool isEmpty = QFileInfo(path).size() == repair.surplus;
+    const QByteArray bytes = (isEmpty ? headerLine().toUtf8() : repair.ending) + line;
+    const auto done =
+        QFile::exists(path) ? appendToFile(path, bytes, repair.surplus) : replaceFile(path, bytes);
     static_cast<void>(done);
 }
 

@@ -18,16 +18,17 @@ class SendLog {
     /// `folder` and `clock` outlive the log.
     SendLog(SupportFolder& folder, const Clock& clock) : folder_(folder), clock_(clock) {}
 
-    /// Adds the entry to the file of its own batch, header first in a new file. A failure is
-    /// dropped; a file that exists but cannot be opened is left alone.
+    /// Adds the entry to the file of its own batch, header first in a new or an empty file. A last
+    /// line that was cut off in the middle is ended first, so that it swallows no other. A failure
+    /// is dropped; a file that exists but cannot be opened is left alone.
     void append(const LogEntry& entry);
 
     /// Replaces the run's file by the header and `entries`. On failure the old file stands.
     void rewrite(const QString& batch, const std::vector<LogEntry>& entries);
 
     /// The entries of the run's file in file order, each with a fresh id; empty when there is no
-    /// file or it is no UTF-8. Rows of fewer than 8 fields are skipped; a time that cannot be read
-    /// is now.
+    /// file or it is no UTF-8, half a character at its end aside. Rows of fewer than 8 fields are
+    /// skipped; a time that cannot be read is now.
     [[nodiscard]] std::vector<LogEntry> load(const QString& batch);
 
     /// The phones in the run's file whose status begins with "sent".

@@ -5,8 +5,8 @@
 namespace velmora {
 
 /// The application's folder under the user's Application Support directory. The first use moves the
-/// folder of an older version into place and creates what is missing; failures show up as failing
-/// reads and writes later.
+/// folder of an older version into place, creates what is missing and narrows the permissions of an
+/// existing folder to its owner; failures show up as failing reads and writes later.
 class SupportFolder {
   public:
     explicit SupportFolder(QString applicationSupport);

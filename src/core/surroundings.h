@@ -31,6 +31,8 @@ class Background {
 };
 
 /// What a task awaits to have `work` done in the background: its result, on the interface thread.
+/// What it hands in writes the result into the suspended task's frame, so that frame has to last
+/// until the work is done: a task that waits here ends by being resumed, never by being destroyed.
 template <class Result>
 class [[nodiscard]] InBackground {
   public:

@@ -18,6 +18,8 @@ class SystemClock final : public QObject, public Clock {
 
     [[nodiscard]] Moment now() const override;
     [[nodiscard]] double uptime() const override;
+    /// Calls after 2,000,000 seconds, about 23 days, for anything longer; whoever waits longer than
+    /// that looks at the time and waits again.
     void after(double seconds, std::function<void()> action) override;
 
   private:

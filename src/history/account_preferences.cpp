@@ -7,7 +7,7 @@ namespace velmora {
 
 namespace {
 
-/// `value` as a list of texts; nothing when it is no list or holds anything but text.
+// `value` as a list of texts; nothing when it is no list or holds anything but text.
 std::optional<QStringList> textList(const QVariant& value) {
     if (value.typeId() == QMetaType::QStringList)
         return value.toStringList();

@@ -36,10 +36,13 @@ class MessagesDB {
     using Value = std::variant<std::monostate, QString, qint64>;
     using Row = std::vector<Value>;
 
-    /// Opens the file and probes that its messages can be read.
+    /// Opens the file and probes that its messages can be read. Fails with Kind::open when the file
+    /// is missing or may not be opened, with Kind::query when it is no history or is locked.
     [[nodiscard]] static std::expected<MessagesDB, DBError> open(const QString& path);
 
-    /// Prepares, binds, runs and finalizes one statement: all its rows.
+    /// Prepares, binds, runs and finalizes one statement: all its rows. Fails with Kind::query, as
+    /// every operation below, when SQLite refuses the statement or a row (a missing table, a lock,
+    /// a damaged file).
     [[nodiscard]] std::expected<std::vector<Row>, DBError> query(const QString& sql,
                                                                  const std::vector<Bind>& binds);
 
@@ -48,11 +51,12 @@ class MessagesDB {
     [[nodiscard]] std::expected<std::vector<NumberInfo>, DBError> senderNumbers(Moment now);
 
     /// The newest message without error, sent or received, in any one-to-one chat with `phone` or
-    /// one of the person's `otherHandles` (e-mail addresses).
+    /// one of the person's `otherHandles` (e-mail addresses). Nothing when there is none.
     [[nodiscard]] std::expected<std::optional<ThreadInfo>, DBError> thread(
         const QString& phone, const QStringList& otherHandles);
 
     /// The newest message that the user sent to `phone` at or after `since`, a history timestamp.
+    /// Nothing when there is none.
     [[nodiscard]] std::expected<std::optional<SentRecord>, DBError> lastSent(const QString& phone,
                                                                              qint64 since);
 

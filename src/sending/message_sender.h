@@ -20,7 +20,9 @@ class MessageSender {
     /// `runner` outlives the sender.
     explicit MessageSender(ScriptRunner& runner) : runner_(runner) {}
 
-    /// Sends `text` to `phone` over `service`. Blocks until Messages has run the script.
+    /// Sends `text` to `phone` over `service`. Blocks until Messages has run the script. Fails when
+    /// the script could not be prepared or Messages reported an error: its own sentence when it
+    /// gave one.
     [[nodiscard]] std::expected<void, SendError> send(const QString& phone, Service service,
                                                       const QString& text);
 

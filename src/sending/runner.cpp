@@ -211,8 +211,9 @@ QCoro::Task<bool> Runner::pause(QString reason) {
     resumeContinuation_ = &paused;
     message = reason;
     nextIn = std::nullopt;
-    // Last, for whoever hears of it may answer at once.
-    state = State::paused;
+    // Last, for whoever hears of it may answer at once; whoever heard the reason may have stopped.
+    if (!stopRequested_)
+        state = State::paused;
     const bool resumed = co_await Pause::Answer(paused);
     unwindWithout(life);
     // A stop may have come after the answer.

@@ -54,8 +54,9 @@ class Runner final : public QObject {
     };
 
     explicit Runner(Tools tools);
-    /// Ends an active run on the spot; nothing touches the runner afterwards. What of the run still
-    /// waits is freed when the clock calls it, so the clock goes last.
+    /// Ends an active run on the spot; nothing touches the runner afterwards. A text in hand, which
+    /// Messages has and the log does not, is logged as unverified. What of the run still waits is
+    /// freed when the clock calls it, so the clock goes last.
     ~Runner() override;
 
     /// True while a run is running, paused or stopping.
@@ -73,7 +74,8 @@ class Runner final : public QObject {
     void resume();
 
     /// Replaces `log` by the stored lines of `batch` and settles those that the history has
-    /// confirmed since.
+    /// confirmed since. Called only while no run is active: reading gives every line another id,
+    /// by which a run finds its own again.
     void reloadLog();
 
     /// The send-log lines of `batch`: earlier runs' first, then this run's in the order they were

@@ -146,7 +146,6 @@ void Runner::settleLog() {
     for (LogEntry& line : log_) {
         if (!isOpen(line))
             continue;
-        // The stored time is the end of the wait for the history, later than the send itself.
         constexpr double longestWait = 120;
         const qint64 since = historyTimestamp(line.time + -longestWait);
         const std::optional<SentRecord> record =

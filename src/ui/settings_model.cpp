@@ -156,7 +156,7 @@ void SettingsModel::edit(void (*change)(AppConfig&, double), double value) {
 
 void SettingsModel::setTime(QuietField field, int hour, int minute) {
     if (!locked())
-        model_.setTimeOfDay(QDateTime(QDate::currentDate(), QTime(hour, minute)), field);
+        model_.setTimeOfDay(hour, minute, field);
 }
 
 }  // namespace velmora

@@ -39,12 +39,8 @@ class AppHome : public ::testing::Test {
 
     /// Records a conversation with `phone` on `line`.
     void thread(const QString& phone, const QString& line) {
-        HistoryMessage message;
-        message.handle = phone;
-        message.line = line;
-        message.date = historyTimestamp(world.clock.now() + -3600);
-        message.sent = true;
-        home.record(message);
+        const qint64 date = historyTimestamp(world.clock.now() + -3600);
+        home.record({.handle = phone, .line = line, .date = date, .sent = true});
     }
 
     /// A new model over the home, as after a restart.

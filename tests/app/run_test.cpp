@@ -104,6 +104,11 @@ TEST_F(Run, IsRefusedForTheFirstReasonThatHolds) {
     EXPECT_FALSE(model->confirmingRun);
     model->setSelected(u"bob"_s, false);
     EXPECT_EQ(model->validationError(), std::nullopt);
+    friends({person(u"ann"_s, u"Ann"_s, u"Lee"_s)});
+    model->loadList();
+    model->setSelection({u"ann"_s});
+    model->startRun();
+    EXPECT_EQ(model->runner().total, 0) << "without a number";
 }
 
 // Catches a request before the terms are accepted, and one or a test send that outlives its model.
@@ -129,6 +134,9 @@ TEST_F(Run, KeepsItsListWhileItGoes) {
     model->selectShown();
     model->clearShown();
     model->setSenderNumber(myOtherLine);
+    model->testPhone = u"212 555 0101"_s;
+    model->sendTest();
+    EXPECT_EQ(model->testResult.value(), QString());
     request();
     EXPECT_EQ(model->config().selectedGroupID, u"friends"_s);
     EXPECT_EQ(model->selection(), (QSet<QString>{u"ann"_s, u"bob"_s}));
@@ -164,10 +172,17 @@ TEST_F(Run, TestSendSaysWhichLineItUsed) {
     EXPECT_EQ(result(u"212 555 0101"_s),
               u"Sent. Turn on Full Disk Access to see which line it used."_s);
     model->dbOK = true;
-    home.writeMessages(
-        messagesOnLine(myLine, {{u"+12125550101"_s, R"({"iMessage": {"error": 22}})"}}));
-    EXPECT_EQ(result(u"212 555 0101"_s),
-              u"Messages reported error 22. That number may not have iMessage."_s);
+    const std::vector<std::pair<QByteArray, QString>> outcomes = {
+        {R"({"error": 22})", u"Messages reported error 22. That number may not have iMessage."_s},
+        {R"({"recordAfter": null})",
+         u"Sent, but Messages hasn't recorded it yet. Check the thread."_s},
+        {R"({"line": ""})",
+         u"Sent by iMessage from an unknown line. That matches your sending number."_s},
+        {R"({"scriptError": "No."})", u"No."_s}};
+    for (const auto& [behaviour, sentence] : outcomes) {
+        home.writeMessages(messagesOnLine(myLine, {{u"+12125550101"_s, behaviour}}));
+        EXPECT_EQ(result(u"212 555 0101"_s), sentence);
+    }
 }
 
 }  // namespace

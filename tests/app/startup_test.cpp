@@ -116,6 +116,8 @@ TEST_F(Startup, TimesOfDayExistOnTheDayTheyAreShown) {
     EXPECT_EQ(stored().quietEnd, u"07:05"_s);
 
     world.clock.shiftWall(-5 * 86400.0);  // 9 March 2025: there is no 2:30
+    model->setTimeOfDay(2, 30, QuietField::start);
+    EXPECT_EQ(stored().quietStart, u"02:30"_s);
     EXPECT_EQ(timeOf(u"2:30"_s, *model), QTime(3, 0));
     EXPECT_EQ(timeOf(u"3:10"_s, *model), QTime(3, 10));
     world.clock.shiftWall(238 * 86400.0);  // 2 November 2025: 1:30 comes twice

@@ -21,7 +21,6 @@ TEST(SplitVersions, EmptyVersionsVanishAndOthersAreTrimmed) {
     EXPECT_EQ(splitVersions(u"---\n\n A\n\n b \r\n---\n---\nB\n---"_s),
               (QStringList{u"A\n\n b"_s, u"B"_s}));
     EXPECT_EQ(splitVersions(u"\u200bA"_s), QStringList{u"\u200bA"_s});
-    EXPECT_EQ(splitVersions(defaultTemplate()).size(), 2);
 }
 
 // Another hash would give people another version after an update.
@@ -30,15 +29,11 @@ TEST(VersionIndex, IsTheKnownHashOfThePhone) {
     EXPECT_EQ(versionIndex(u"+15551234567"_s, whole), 0x5c7b129949cbd436);
     EXPECT_EQ(versionIndex(u"+15551234568"_s, whole), 0x5c7b1d9949cbe6e7);
     EXPECT_EQ(versionIndex(u""_s, whole), 0xcbf29ce484222325);
-    EXPECT_EQ(versionIndex(u"a"_s, whole), 0xaf63dc4c8601ec8c);
     EXPECT_EQ(versionIndex(u"+15551234567"_s, 2), 0U);
     EXPECT_EQ(versionIndex(u"+15551234568"_s, 2), 1U);
     EXPECT_EQ(versionIndex(u"+15551234567"_s, 3), 1U);
-    EXPECT_EQ(versionIndex(u"+15551234567"_s, 1), 0U);
-    // Two bytes in UTF-8, both above 127: (((basis ^ c3) * prime) ^ a9) * prime.
-    const quint64 prime = 0x100000001b3;
-    const quint64 expected = ((((0xcbf29ce484222325 ^ 0xc3) * prime) ^ 0xa9) * prime) % whole;
-    EXPECT_EQ(versionIndex(u"\u00e9"_s, whole), expected);
+    EXPECT_EQ(versionIndex(u"\u00e9"_s, whole), 0xac21707b7181e01)
+        << "two bytes in UTF-8, both above 127";
 }
 
 // A stray or missing space, or a placeholder left over, would be seen by everyone.
@@ -54,6 +49,13 @@ TEST(RenderText, PutsInNameAndNote) {
               u"{First_name} { first_name}"_s);
     EXPECT_EQ(renderText(u"{first_name}"_s, u"{custom_note}"_s, u"x {first_name}"_s),
               u"x {first_name}"_s);
+    QStringList builtIn = splitVersions(defaultTemplate());
+    EXPECT_EQ(renderText(builtIn.takeFirst(), u"Ann"_s, {}),
+              u"Hey Ann, it's Robin. Something special is coming up and I'm only telling a few "
+              "people. Want in?"_s);
+    EXPECT_EQ(renderText(builtIn.join(u'|'), u"Ann"_s, u"See you!"_s),
+              u"Ann! Robin here. I've got a private thing coming up and you were one of the first "
+              "people I thought of. Interested? See you!"_s);
 }
 
 TEST(IsPersonalised, WhenTextsMayDiffer) {

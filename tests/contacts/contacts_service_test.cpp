@@ -4,6 +4,8 @@
 
 #include <utility>
 
+#include "contacts/contact_access.h"
+
 namespace velmora {
 namespace {
 
@@ -73,6 +75,8 @@ TEST(ContactsAccess, AsksOnlyWhenItIsNotYetAuthorized) {
             EXPECT_EQ(granted(service), answer);
         }
     }
+    for (qint64 status = -1; status <= 5; ++status)
+        EXPECT_EQ(contactAccessOf(status) == ContactAccess::authorized, status == 3) << status;
 }
 
 TEST(ContactsOfAList, LeaveOutWhoHasNoNumberOnlyInAllContacts) {

@@ -12,6 +12,10 @@ AppConfig fullConfig() {
     AppConfig config;
     config.senderNumber = u"+15551234567"_s;
     config.delayMin = 0.1;
+    config.delayMax = 1e-7;
+    config.quietStart = u"7:5"_s;
+    config.quietEnd = u"late"_s;
+    config.verifyWait = 4.25;
     config.maxPerRun = std::numeric_limits<qint64>::max();
     config.maxFailures = std::numeric_limits<qint64>::min();
     config.selectedGroupID = u""_s;
@@ -40,7 +44,8 @@ TEST(SendingHours, BothEndsAreInsideAndMidnightMayBe) {
           {u"22:00"_s, u"6:00"_s, {22, 0}, false},
           {u"22:00"_s, u"6:00"_s, {23, 30}, false},
           {u"22:00"_s, u"6:00"_s, {6, 0, 59}, false},
-          {u"22:00"_s, u"6:00"_s, {12, 0}, true},
+          {u"22:00"_s, u"6:00"_s, {6, 1}, true},
+          {u"22:00"_s, u"6:00"_s, {21, 59}, true},
           {u"9:00"_s, u"9:00"_s, {9, 0}, false},
           {u"9:00"_s, u"9:00"_s, {9, 1}, true},
           {u"ten"_s, u"20:00"_s, {3, 0}, false},
@@ -78,13 +83,25 @@ TEST(ConfigStore, WhatIsSavedIsLoaded) {
     EXPECT_EQ(store.load(), AppConfig());
 }
 
-TEST(ConfigJSON, KeysAreInCodePointOrderAndAbsentOnesLeftOut) {
+// Another key or default would change the settings of everyone who updates.
+TEST(ConfigJSON, HasItsKeysAndDefaultsInCodePointOrder) {
+    EXPECT_EQ(encodeConfig(AppConfig()).value().toStdString(), R"({
+  "delayMax": 60.0,
+  "delayMin": 30.0,
+  "maxFailures": 3,
+  "maxPerRun": 60,
+  "notes": {},
+  "picks": {},
+  "quietEnd": "20:00",
+  "quietStart": "10:00",
+  "senderNumber": "",
+  "templates": {},
+  "termsAccepted": "",
+  "verifyWait": 20.0
+})");
     const QByteArray json = encodeConfig(fullConfig()).value();
-    EXPECT_LT(json.indexOf("\"delayMax\""), json.indexOf("\"delayMin\""));
     EXPECT_LT(json.indexOf("\uff5e"), json.indexOf("\U0001f600"));
-    EXPECT_TRUE(json.contains("\n  \"maxPerRun\": 9223372036854775807"));
     AppConfig endless;
-    EXPECT_FALSE(encodeConfig(endless).value().contains("selectedGroupID"));
     endless.delayMax = std::numeric_limits<double>::infinity();
     EXPECT_EQ(encodeConfig(endless), std::nullopt);
 }
@@ -118,16 +135,13 @@ TEST(ConfigJSON, OnlyWrongTypesAndBrokenTextGiveNothing) {
 }
 
 // Recursion over a hostile file overflows the stack; building all of it fills the memory.
-TEST(ConfigJSON, SurvivesDepthAndSize) {
+TEST(ConfigJSON, SurvivesDepth) {
     const QByteArray open(100'000, '[');
     const QByteArray deep = open + QByteArray(100'000, ']');
     EXPECT_EQ(decodeConfig(open), std::nullopt);
     EXPECT_EQ(decodeConfig("{\"picks\":{\"g\":" + deep + "}}"), std::nullopt);
     EXPECT_EQ(decodeConfig("{\"other\":" + deep + "}"), AppConfig());
     EXPECT_EQ(decodeConfig("{\"picks\":" + QByteArray(5'000'000, '[')), std::nullopt);
-    const auto large = decodeConfig(R"({"notes":{"a":")" + QByteArray(5'000'000, 'n') + "\"}}");
-    ASSERT_TRUE(large.has_value());
-    EXPECT_EQ(large->notes.value(u"a"_s).size(), 5'000'000);
 }
 
 // A failed save that destroys the file loses every template and note.

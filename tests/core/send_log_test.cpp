@@ -93,19 +93,27 @@ TEST_F(SendLogTest, OddRowsAndDamagedFilesAreReadAsFarAsTheyGo) {
     EXPECT_EQ(phones(), (QStringList{u"+1"_s, QString(u"+2\0"_s), u"+1"_s}));
 }
 
-// After a loss of power the next person's line would become a part of the torn one, and that person
-// be texted again.
+// After a loss of power the next person's line would become a part of the torn one, or the whole
+// file unreadable, and people be texted again: in a folder that takes no new file, too.
 TEST_F(SendLogTest, ATornLastLineSwallowsNoOther) {
-    for (const QByteArray& torn : {row, row + "sent,\"half a det", row + "sent,\"a \"", row.left(9),
-                                   row + "sent,Chlo\xc3"}) {
+    const QString path = log.logFile(u"Party"_s);
+    for (const QByteArray& torn :
+         {row, row + "sent,\"half a det", row + "sent,\"half a det\n", row + "sent,\"a \"",
+          row.left(9), row + "sent,Chlo\xc3", row + "sent,\"\xf0\x9f\x8e"}) {
         put(header + row + "sent,\n" + torn);
+        ASSERT_TRUE(QFile::setPermissions(path, QFile::Permissions(0x6666)));
+        ASSERT_TRUE(QFile::setPermissions(home.folder.logs(), QFile::Permissions(0x5555)));
+        ASSERT_TRUE(QFile::setPermissions(home.folder.path(), QFile::Permissions(0x7755)));
+        const OrdinaryUser user;
+        EXPECT_EQ(log.alreadySent(u"Party"_s), QSet{u"+1"_s}) << torn.constData();
         log.append(entry(u"+3"_s));
-        EXPECT_TRUE(log.alreadySent(u"Party"_s).contains(u"+3"_s)) << torn.constData();
-        EXPECT_TRUE(log.alreadySent(u"Party"_s).contains(u"+1"_s));
+        EXPECT_EQ(log.alreadySent(u"Party"_s), (QSet{u"+1"_s, u"+3"_s})) << torn.constData();
     }
-    put("");
-    log.append(entry(u"+3"_s, u"sent"_s));
-    EXPECT_TRUE(log.alreadySent(u"Party"_s).contains(u"+3"_s)) << "taken for the header";
+    for (const QByteArray nothing : {"", "\xc3"}) {
+        put(nothing);
+        log.append(entry(u"+3"_s));
+        EXPECT_EQ(file().left(header.size()), header) << "taken for the header";
+    }
 }
 
 TEST_F(SendLogTest, FailedWritesLeaveTheFileWhole) {
@@ -187,7 +195,10 @@ TEST(ParseCSV, ReadsBackWhateverIsWritten) {
 // A time an hour off after a change of the clocks, or a row that is not understood.
 TEST(LogTime, CarriesTheOffsetOfItsDay) {
     EXPECT_EQ(formatLogTime({763657200.99}), u"2025-03-14T11:00:00-04:00"_s);
-    EXPECT_EQ(formatLogTime({-0.5}), u"2000-12-31T18:59:59-05:00"_s);
+    EXPECT_EQ(formatLogTime({-0.5}, 0), u"2000-12-31T23:59:59Z"_s);
+    EXPECT_EQ(formatLogTime({-0.5}, 60), u"2001-01-01T00:59:59+01:00"_s);
+    EXPECT_EQ(formatLogTime({-0.5}, 345), u"2001-01-01T05:44:59+05:45"_s);
+    EXPECT_EQ(formatLogTime({-0.5}, -210), u"2000-12-31T20:29:59-03:30"_s);
     EXPECT_EQ(formatLogTime({std::numeric_limits<double>::infinity()}).left(4), u"9999"_s);
     const double autumn = 783928800;  // 2025-11-04 06:00 UTC
     for (double hour = -72; hour < 0; ++hour) {

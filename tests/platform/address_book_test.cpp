@@ -64,7 +64,7 @@ TEST_F(AddressBookTest, MembersComeInTheOrderOfTheBookAndAnUnknownGroupIsAnError
 TEST_F(AddressBookTest, ABrokenFileFailsEveryReadWithOneSentence) {
     for (const QByteArray json :
          {"{\"contacts\": [", "[]", R"({"contacts": {}})", R"({"contacts": [{"givenName": 5}]})",
-          R"({"contacts": ["c1"]})", R"({"groups": [{"members": [1]}]})"}) {
+          R"({"contacts": ["c1"]})", R"({"groups": [{"members": [1]}]})", R"({"access": true})"}) {
         home.writeContacts(json);
         const auto people = book.enumerateContacts([](const ContactRecord&) {});
         ASSERT_FALSE(people || book.allGroups() || book.membersOfGroup(u"g1"_s))

@@ -104,13 +104,23 @@ TEST_F(MessagesApplicationTest, AFailingScriptLeavesNothing) {
         EXPECT_THAT(fails(settings), testing::HasSubstr("messages.json"));
 }
 
-// Catches writing into a history that was deleted while the application ran, and what is still to
-// come being called on an application that has ended.
+// Catches writing into a history that was deleted while the application ran, flags that fall on a
+// stranger's row of a new one, a table or column of others that disturbs, and what is still to come
+// being called on an application that has ended.
 TEST_F(MessagesApplicationTest, ADeletedHistoryIsMadeAnewAndAnEndEndsAll) {
+    static_cast<void>(home.history());
+    changeHistory(home.historyPath(),
+                  "CREATE TABLE attachment (a); ALTER TABLE message ADD COLUMN is_read DEFAULT 0");
     send();
     EXPECT_EQ(flagsAfter(10), u"sd"_s);
+    send();
+    EXPECT_EQ(flagsAfter(0.5), u""_s);
     for (const QString& suffix : {u""_s, u"-wal"_s, u"-shm"_s})
         QFile::remove(home.historyPath() + suffix);
+    for (int row = 1; row <= 2; ++row)
+        EXPECT_EQ(HistoryWriter::open(home.historyPath())->add({.handle = ann, .date = since}),
+                  row);
+    EXPECT_EQ(flagsAfter(10), u""_s);
     send();
     EXPECT_EQ(flagsAfter(0.5), u""_s);
     messages.reset();

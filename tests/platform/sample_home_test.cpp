@@ -61,6 +61,7 @@ TEST_F(SampleHomeTest, AllowsAQuickRehearsalAtAnyHourAndIsPreparedOnce) {
     SupportFolder support(platform.applicationSupport);
     const AppConfig config = ConfigStore(support).load();
     EXPECT_LT(config.delayMax, 5);
+    EXPECT_LT(config.verifyWait, 8) << "Elena's late confirmation would never be seen";
     EXPECT_EQ(config.quietStart + u'-' + config.quietEnd, u"00:00-23:59"_s);
     EXPECT_FALSE(prepareSampleHome(path, world.clock.now()).has_value());
 }

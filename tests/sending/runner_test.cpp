@@ -111,10 +111,18 @@ TEST_F(RunnerTest, StopsInEveryState) {
     expectDone(u"Stopped after 1 of 2."_s);
     runner->stop();
     EXPECT_EQ(runner->state.value(), State::done);
+
+    messages({{phone(2), R"({"recordAfter": null})"}});
+    start(3);
+    clock().advance(30);
+    EXPECT_EQ(runner->message.value(), u"Checking the last sends."_s);
+    runner->stop();
+    clock().advance(5);
+    expectDone(u"Stopped after 1 of 1."_s);
 }
 
 // Catches a text that leaves although the user stopped right after the resume, and an answer that
-// is lost because it comes while the pause is being announced.
+// is lost because it comes while the pause or its reason is being announced.
 TEST_F(RunnerTest, TakesAnAnswerAtAnyMoment) {
     clock().advance(10.25 * 3600);
     runAll(2);
@@ -126,6 +134,15 @@ TEST_F(RunnerTest, TakesAnAnswerAtAnyMoment) {
     expectDone(u"Stopped after 0 of 2."_s);
     EXPECT_EQ(scripts.count, 0);
 
+    {
+        QObject all;
+        const auto stop = [this] { runner->stop(); };
+        const auto expectUnpaused = [this] { EXPECT_NE(runner->state.value(), State::paused); };
+        QObject::connect(runner.get(), &Runner::messageChanged, &all, stop);
+        QObject::connect(runner.get(), &Runner::stateChanged, &all, expectUnpaused);
+        runAll(2);
+        expectDone(u"Stopped after 0 of 2."_s);
+    }
     QObject::connect(runner.get(), &Runner::stateChanged, runner.get(),
                      [this] { runner->resume(); });
     runAll(2);

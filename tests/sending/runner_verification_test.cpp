@@ -40,12 +40,16 @@ TEST_F(VerificationTest, KeepsTheFirst200CharactersAndGoesOnAfterTheConfirmation
     EXPECT_EQ(runner->log()[1].detail, family.repeated(200));
 }
 
-// Catches a late confirmation that moves its line, changes its time or never reaches the file.
+// Catches a late confirmation that moves its line, changes its time or never reaches the file, and
+// one that is looked for at other times than every 5 seconds of a wait between two sends.
 TEST_F(VerificationTest, ALateConfirmationReplacesTheLineInPlace) {
-    messages({{phone(0), R"({"sentAfter": 40, "deliveredAfter": null})"}});
-    std::vector<qsizetype> changes;
-    QObject::connect(runner.get(), &Runner::logEntryChanged,
-                     [&changes](qsizetype index) { changes.push_back(index); });
+    config.delayMin = config.delayMax = 30;
+    messages({{phone(0), R"({"sentAfter": 21, "deliveredAfter": null})"},
+              {phone(1), R"({"sentAfter": 26, "deliveredAfter": null})"}});
+    std::vector<std::pair<qsizetype, double>> changes;
+    QObject::connect(runner.get(), &Runner::logEntryChanged, [this, &changes](qsizetype index) {
+        changes.emplace_back(index, clock().uptime());
+    });
     start(3);
     clock().advance(23);
     EXPECT_EQ(outcome(0), u"sent_unverified|iMessage|"_s + line +
@@ -56,7 +60,8 @@ TEST_F(VerificationTest, ALateConfirmationReplacesTheLineInPlace) {
     EXPECT_EQ(outcome(0), u"sent|iMessage|"_s + line + u"|"_s);
     EXPECT_EQ(runner->log()[0].time, first.time);
     EXPECT_NE(runner->log()[0].id, first.id);
-    EXPECT_EQ(changes, std::vector<qsizetype>{0});
+    // The waits began at 20 and at 70 seconds.
+    EXPECT_EQ(changes, (std::vector<std::pair<qsizetype, double>>{{0, 25}, {1, 80}}));
     EXPECT_EQ(file(), displayed());
 }
 
@@ -117,34 +122,49 @@ TEST_F(VerificationTest, PausesWhenATextLeftOnAnotherNumber) {
     expectDone(u"Finished. 5 of 5 processed. 1 failed."_s);
 }
 
-// Catches a count of failures that an unverified send resets or adds to, that a sent one leaves
-// standing, and that goes on after the pause.
+// Catches a count of failures that an unverified send or its late confirmation resets or adds to,
+// that a sent one leaves standing, and that goes on after the pause.
 TEST_F(VerificationTest, PausesAfterFailuresInARow) {
     config.maxFailures = 3;
     const QByteArray fails = R"({"scriptError": "No."})";
     messages({{phone(0), fails},
               {phone(2), fails},
               {phone(3), fails},
-              {phone(4), R"({"sentAfter": null, "deliveredAfter": null})"},
+              {phone(4), R"({"sentAfter": 21, "deliveredAfter": null})"},
               {phone(5), fails},
               {phone(6), fails},
               {phone(7), fails}});
     runAll(9);
     expectPaused(u"3 sends in a row failed. Check Messages and your iPhone, then resume."_s);
     EXPECT_EQ(runner->done, 6);
+    EXPECT_EQ(outcome(4), u"sent|iMessage|"_s + line + u"|"_s);
     runner->resume();
     settle();
     expectDone(u"Finished. 9 of 9 processed. 6 failed."_s);
 }
 
-// Catches a run that an unreadable history stops or keeps from ending.
+// Catches a run that an unreadable history stops or keeps from ending, however it became so: no
+// file, one cut short, one without the tables, one that is locked.
 TEST_F(VerificationTest, ARunWithoutTheHistoryEndsUnverified) {
-    runner = makeRunner(home.path() + u"/none.db"_s);
-    runAll(1);
-    expectDone(u"Finished. 1 of 1 processed."_s);
-    EXPECT_EQ(outcome(0), u"sent_unverified|iMessage||"_s + noRecord);
-    EXPECT_EQ(clock().uptime(), 20 + 120);
-    runAll(1);
+    const QString path = home.path() + u"/broken.db"_s;
+    std::unique_ptr<sqlite3, int (*)(sqlite3*)> other(nullptr, nullptr);
+    runner = makeRunner(path);
+    QObject::connect(runner.get(), &Runner::doneChanged, [&] {
+        if (runner->done == 1)
+            writeTestFile(path, "SQLite format 3");
+        if (runner->done == 2) {
+            writeTestFile(path, "");
+            changeHistory(path, "CREATE TABLE message (a)");
+        }
+        if (runner->done == 3)
+            other = changeHistory(path, "BEGIN EXCLUSIVE");
+    });
+    runAll(4);
+    expectDone(u"Finished. 4 of 4 processed."_s);
+    for (size_t n = 0; n < 4; ++n)
+        EXPECT_EQ(outcome(n), u"sent_unverified|iMessage||"_s + noRecord);
+    EXPECT_NEAR(clock().now().seconds - runner->log()[3].time.seconds, 120, 0.01);
+    runAll(4);
     expectDone(u"Finished. 0 of 0 processed."_s);
 }
 
@@ -165,12 +185,11 @@ TEST_F(VerificationTest, ALoadedLogIsSettledByTheHistory) {
     }
     const qint64 now = historyTimestamp(clock().now());
     const auto record = [&](int person, qint64 secondsAgo, bool delivered) {
-        HistoryMessage message{.handle = phone(person)};
-        message.service = person == 1 ? u"SMS"_s : QString();
-        message.line = otherLine;
-        message.date = now - secondsAgo * 1'000'000'000;
-        message.delivered = delivered;
-        home.record(message);
+        home.record({.handle = phone(person),
+                     .service = person == 1 ? u"SMS"_s : QString(),
+                     .line = otherLine,
+                     .date = now - secondsAgo * 1'000'000'000,
+                     .delivered = delivered});
     };
     record(2, 121, true);
     record(3, 10, false);

@@ -1,6 +1,7 @@
 #include "support/rehearsal_home.h"
 
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <QDir>
 #include <QFile>
@@ -33,6 +34,13 @@ void writeTestFile(const QString& path, const QByteArray& bytes) {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
     EXPECT_EQ(file.write(bytes), bytes.size());
+}
+
+std::unique_ptr<sqlite3, int (*)(sqlite3*)> changeHistory(const QString& path, const char* sql) {
+    sqlite3* db = nullptr;
+    EXPECT_EQ(sqlite3_open(path.toUtf8().constData(), &db), SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(db, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(db);
+    return {db, &sqlite3_close};
 }
 
 HistoryWriter& RehearsalHome::history() {

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 #include <map>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -14,6 +15,9 @@ namespace velmora {
 
 /// Makes the file hold these bytes, in folders that are made for it; fails the test otherwise.
 void writeTestFile(const QString& path, const QByteArray& bytes);
+
+/// Runs `sql` on the history at `path` as some other program would, whose connection this returns.
+std::unique_ptr<sqlite3, int (*)(sqlite3*)> changeHistory(const QString& path, const char* sql);
 
 /// A home folder of the test's own, with an address book, the settings of Messages and a history.
 class RehearsalHome {

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "core/config_store.h"
 #include "core/files.h"
 #include "platform/rehearsal/rehearsal_platform.h"
 #include "platform/rehearsal/sample/sample_home.h"
@@ -27,12 +26,6 @@ QString preparedHome(const QDir& folder, Moment now) {
     const QString home = folder.filePath(u"home"_s);
     if (auto prepared = prepareSampleHome(home, now); !prepared)
         fail(prepared.error().description);
-    // A short wait for the history, so that a late confirmation comes after it.
-    SupportFolder support(home + u"/.local/share"_s);
-    ConfigStore store(support);
-    AppConfig config = store.load();
-    config.verifyWait = 4;
-    store.save(config);
     return home;
 }
 

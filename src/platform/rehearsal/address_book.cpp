@@ -9,9 +9,10 @@ namespace velmora {
 
 namespace {
 
-bool isGranted(const QJsonObject& root) {
-    return root.value(QStringLiteral("access")).toString(QStringLiteral("granted")) ==
-           QStringLiteral("granted");
+// A value that is no text denies nothing: it is an error of the file.
+bool isDenied(JsonFile& file) {
+    const auto access = file.optionalText(file.root(), QStringLiteral("access"));
+    return access && *access != QStringLiteral("granted") && !file.error();
 }
 
 ContactRecord contactOf(JsonFile& file, const QJsonObject& object) {
@@ -36,8 +37,8 @@ AddressBook::AddressBook(const QString& home)
     : path_(home + QStringLiteral("/Library/Contacts/contacts.json")) {}
 
 ContactAccess AddressBook::access() const {
-    const auto file = JsonFile::read(path_);
-    return !file || isGranted(file->root()) ? ContactAccess::authorized : ContactAccess::denied;
+    auto file = JsonFile::read(path_);
+    return file && isDenied(*file) ? ContactAccess::denied : ContactAccess::authorized;
 }
 
 QCoro::Task<bool> AddressBook::requestAccess() {
@@ -48,7 +49,7 @@ std::expected<AddressBook::Book, ContactsError> AddressBook::parse() const {
     auto file = JsonFile::read(path_);
     if (!file)
         return std::unexpected(ContactsError{file.error().description});
-    if (!isGranted(file->root()))
+    if (isDenied(*file))
         return std::unexpected(
             ContactsError{QStringLiteral("Access to the address book was denied.")});
     Book book;

@@ -15,17 +15,21 @@ namespace velmora {
 
 namespace {
 
+using FileIdentity = std::pair<dev_t, ino_t>;
+
 // Which file stands under the path: the history may be deleted or replaced while this runs.
-std::optional<std::pair<dev_t, ino_t>> fileIdentity(const QString& path) {
+std::optional<FileIdentity> fileIdentity(const QString& path) {
     struct stat status{};
     if (::stat(QFile::encodeName(path).constData(), &status) != 0)
         return {};
-    return std::pair(status.st_dev, status.st_ino);
+    return FileIdentity(status.st_dev, status.st_ino);
 }
 
-// A text on its way: its row once it has one, and the flags that it has earned.
+// A text on its way: its row once it has one, the file that holds it, and the flags that it has
+// earned.
 struct Progress {
     std::optional<qint64> row;
+    std::optional<FileIdentity> file;
     bool sent = false;
     bool delivered = false;
 };
@@ -44,6 +48,7 @@ class MessagesApplication::History {
         HistoryWriter* writer = current();
         if (!writer)
             return;
+        progress.file = identity_;
         if (const auto row = writer->add(message))
             progress.row = *row;
         else
@@ -54,7 +59,8 @@ class MessagesApplication::History {
 
     void mark(const Progress& progress) {
         HistoryWriter* writer = progress.row ? current() : nullptr;
-        if (!writer)
+        // In another file the row is somebody else's.
+        if (!writer || progress.file != identity_)
             return;
         if (const auto set = writer->setFlags(*progress.row, progress.sent, progress.delivered);
             !set)
@@ -82,7 +88,7 @@ class MessagesApplication::History {
 
     QString path_;
     std::optional<HistoryWriter> writer_;
-    std::optional<std::pair<dev_t, ino_t>> identity_;
+    std::optional<FileIdentity> identity_;
 };
 
 MessagesApplication::MessagesApplication(Clock& clock, const QString& home)

@@ -8,19 +8,14 @@ namespace velmora {
 
 namespace {
 
-class CountedActivity final : public Activity {
-  public:
-    explicit CountedActivity(std::shared_ptr<int> count) : count_(std::move(count)) { ++*count_; }
-    ~CountedActivity() override { --*count_; }
-
-  private:
-    std::shared_ptr<int> count_;
-};
+void wouldOpen(const QString& what) {
+    std::fputs(qPrintable(QStringLiteral("Rehearsal: would open %1\n").arg(what)), stderr);
+}
 
 }  // namespace
 
 std::unique_ptr<Activity> RehearsalDesktop::beginActivity(const QString&) {
-    return std::make_unique<CountedActivity>(activities_);
+    return nullptr;
 }
 
 void RehearsalDesktop::openPrivacyPane(PrivacyPane pane) {
@@ -35,11 +30,6 @@ void RehearsalDesktop::openMessages() {
 
 void RehearsalDesktop::openPage(ProductPage page) {
     wouldOpen(productPageAddress(QStringLiteral(VELMORA_WEBSITE_HOST), page));
-}
-
-void RehearsalDesktop::wouldOpen(const QString& what) {
-    std::fputs(qPrintable(QStringLiteral("Rehearsal: would open %1\n").arg(what)), stderr);
-    requests_.append(what);
 }
 
 }  // namespace velmora

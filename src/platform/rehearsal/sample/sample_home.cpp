@@ -55,7 +55,8 @@ const QString settings =
   "delayMax" : 4,
   "delayMin" : 2,
   "quietEnd" : "23:59",
-  "quietStart" : "00:00"
+  "quietStart" : "00:00",
+  "verifyWait" : 4
 }
 )json"_s;
 
