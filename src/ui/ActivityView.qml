@@ -49,7 +49,10 @@ ColumnLayout {
             Accessible.role: Accessible.List
             Accessible.name: "Activity"
             T.ScrollBar.vertical: SlimScrollBar {}
-            delegate: ActivityRow { width: list.width }
+            delegate: ActivityRow {
+                width: list.width
+                current: ListView.isCurrentItem && list.activeFocus
+            }
         }
     }
 }

@@ -38,7 +38,13 @@ Item {
         selectionColor: Theme.selection
         selectedTextColor: Theme.primary
         font: shown.font
-        onActiveFocusChanged: if (!activeFocus) deselect()
+        onActiveFocusChanged: if (!activeFocus && !menu.shown) deselect()
+        Keys.onMenuPressed: menu.openAtCaret()
         Accessible.ignored: true
+
+        TextMenu {
+            id: menu
+            field: selection
+        }
     }
 }

@@ -1,7 +1,8 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import QtQuick.Layouts
 
-/// Holds one sheet while it is shown, as large as the sheet wants to be.
+/// Holds one sheet while it is shown, as large as the sheet wants to be where there is room.
 FocusScope {
     id: stage
 
@@ -16,8 +17,9 @@ FocusScope {
         y: -stage.lift
     }
 
-    Column {
+    ColumnLayout {
         id: holder
+        anchors.fill: parent
 
         // A repeater of one: no loader makes a component that is bound to another file.
         Repeater {

@@ -90,13 +90,19 @@ bool WindowDriver::shows(const QString& name, QWindow* in) {
     return findBelow(root, name, QAccessible::NoRole) != nullptr;
 }
 
-QPoint WindowDriver::place(const QString& name, QAccessible::Role role) {
+QRect WindowDriver::area(const QString& name, QAccessible::Role role, QWindow* in) {
+    QWindow* there = in == nullptr ? &window() : in;
     QAccessibleInterface* found = nullptr;
     until([&] {
-        found = findBelow(QAccessible::queryAccessibleInterface(&window()), name, role);
+        found = findBelow(QAccessible::queryAccessibleInterface(there), name, role);
         return found != nullptr;
     });
-    return found == nullptr ? QPoint() : window().mapFromGlobal(found->rect().center());
+    return found == nullptr ? QRect() : found->rect().translated(there->mapFromGlobal(QPoint()));
+}
+
+QPoint WindowDriver::place(const QString& name, QAccessible::Role role) {
+    const QRect found = area(name, role);
+    return found.isNull() ? QPoint() : found.center();
 }
 
 bool WindowDriver::click(const QString& name, QAccessible::Role role) {

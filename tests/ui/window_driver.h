@@ -34,7 +34,10 @@ class WindowDriver {
     /// Clicks on what is called that, where `role` can tell it from another of its name; false when
     /// there is no such thing.
     bool click(const QString& name, QAccessible::Role role = QAccessible::NoRole);
-    /// Where the thing of that name is; null when there is none.
+    /// Where the thing of that name is, in its window; null when there is none.
+    [[nodiscard]] QRect area(const QString& name, QAccessible::Role role = QAccessible::NoRole,
+                             QWindow* in = nullptr);
+    /// Its middle.
     [[nodiscard]] QPoint place(const QString& name, QAccessible::Role role = QAccessible::NoRole);
     void clickAt(QPoint place);
     /// Types ASCII characters.

@@ -25,6 +25,13 @@ T.Popup {
             next += delta;
         if (next >= 0 && next < rows.count)
             highlighted = next;
+        showHighlighted();
+    }
+    function showHighlighted() {
+        const row = rows.itemAt(highlighted) as MenuRow;
+        if (row)
+            flick.contentY = Math.max(row.y + row.height - flick.height,
+                                      Math.min(row.y, flick.contentY));
     }
     function pick(index: int) {
         close();
@@ -50,7 +57,10 @@ T.Popup {
         focusedBefore = parent.Window.activeFocusItem;
     }
     onClosed: focusedBefore?.forceActiveFocus(Qt.PopupFocusReason)
-    onOpened: flick.forceActiveFocus(Qt.PopupFocusReason)
+    onOpened: {
+        flick.forceActiveFocus(Qt.PopupFocusReason);
+        showHighlighted();
+    }
 
     background: Item {
         Rectangle {
