@@ -39,7 +39,8 @@ Item {
         selectedTextColor: Theme.primary
         font: shown.font
         onActiveFocusChanged: if (!activeFocus && !menu.shown) deselect()
-        Keys.onMenuPressed: menu.openAtCaret()
+        Component.onCompleted: TextCommands.passShortcuts(selection)
+        Keys.onMenuPressed: menu.openAtCaret(cursorRectangle)
         Accessible.ignored: true
 
         TextMenu {

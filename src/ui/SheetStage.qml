@@ -1,8 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Layouts
 
-/// Holds one sheet while it is shown, as large as the sheet wants to be where there is room.
+/// Holds one sheet while it is shown, as large as the sheet wants to be.
 FocusScope {
     id: stage
 
@@ -17,9 +16,8 @@ FocusScope {
         y: -stage.lift
     }
 
-    ColumnLayout {
+    Column {
         id: holder
-        anchors.fill: parent
 
         // A repeater of one: no loader makes a component that is bound to another file.
         Repeater {

@@ -1,5 +1,7 @@
 #include "ui/text_commands.h"
 
+#include <QEvent>
+
 namespace velmora {
 
 namespace {
@@ -75,6 +77,16 @@ void TextCommands::run(Command command, QObject* field) {
     const QByteArray operation = operationOf(command);
     if (field != nullptr && field->metaObject()->indexOfMethod(operation + "()") >= 0)
         QMetaObject::invokeMethod(field, operation.constData());
+}
+
+void TextCommands::passShortcuts(QObject* field) {
+    field->installEventFilter(this);
+}
+
+bool TextCommands::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride)
+        event->ignore();
+    return QObject::eventFilter(watched, event);
 }
 
 }  // namespace velmora

@@ -25,6 +25,11 @@ class TextCommands final : public QObject {
     Q_INVOKABLE static QVariantList entriesFor(const QObject* field);
     /// Does what `command` says to `field`; nothing when that is no text field.
     Q_INVOKABLE static void run(velmora::MenuCommands::Command command, QObject* field);
+    /// From now on shortcuts are heard while `field`, a text that cannot be edited, has the
+    /// keyboard. The toolkit's own swallows them all.
+    Q_INVOKABLE void passShortcuts(QObject* field);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
 }  // namespace velmora

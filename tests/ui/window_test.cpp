@@ -157,6 +157,7 @@ TEST_F(WindowTest, MenusAndShortcutsDoTheirWork) {
     user.key(Qt::Key_Down);
     model->selectShown();
 
+    user.clickAt(user.place(u"Select Ann Lee"_s) + QPoint(60, 18));  // her text
     user.key(Qt::Key_Return, command);
     ASSERT_TRUE(user.until([&] { return user.shows(u"Start Sending"_s); }));
     user.key(Qt::Key_Return);

@@ -18,8 +18,7 @@ FocusScope {
         return plain;
     }
 
-    Layout.fillWidth: true
-    Layout.fillHeight: true
+    height: Math.min(implicitHeight, Window.height)
     implicitWidth: 280
     implicitHeight: column.implicitHeight + 36
     focus: true

@@ -85,7 +85,7 @@ FocusScope {
             font.pixelSize: Theme.body
             Accessible.name: editor.accessibleName
             Accessible.multiLine: true
-            Keys.onMenuPressed: menu.openAtCaret()
+            Keys.onMenuPressed: menu.openAtCaret(cursorRectangle)
             Keys.priority: Keys.BeforeItem
             Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
             Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)

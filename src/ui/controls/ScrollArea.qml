@@ -10,18 +10,25 @@ Item {
     property string accessibleName
     /// What is to be seen, as far as it fits.
     property Item revealed: null
+    /// How far what is scrolled stays away from the edges.
+    property int inset: 0
+    property alias cornerRadius: ring.cornerRadius
     property alias contentHeight: flick.contentHeight
     default property alias content: flick.flickableData
 
-    implicitHeight: contentHeight
+    implicitHeight: contentHeight + 2 * inset
     onRevealedChanged: {
-        const top = revealed ? flick.contentItem.mapFromItem(revealed, 0, 0).y - flick.contentY : 0;
-        const below = revealed ? top + revealed.height - flick.height : 0;
+        const room = Theme.focusRingWidth;
+        const top = revealed ? flick.mapFromItem(revealed, 0, 0).y - room : 0;
+        const below = revealed ? top + revealed.height + 2 * room - flick.height : 0;
         if (below < top)
             flick.scroll(Math.min(0, top) + Math.max(0, below));
     }
 
-    FocusRing { shown: flick.activeFocus }
+    FocusRing {
+        id: ring
+        shown: flick.activeFocus
+    }
 
     Flickable {
         id: flick
@@ -33,6 +40,8 @@ Item {
         }
 
         anchors.fill: parent
+        anchors.margins: area.inset
+        anchors.rightMargin: Math.min(1, area.inset)
         interactive: overflows
         clip: overflows
         boundsBehavior: Flickable.StopAtBounds

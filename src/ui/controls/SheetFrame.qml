@@ -26,8 +26,7 @@ FocusScope {
         return plain;
     }
 
-    Layout.fillWidth: true
-    Layout.fillHeight: true
+    height: Math.min(implicitHeight, Window.height)
     implicitWidth: defaultWidth
     implicitHeight: all.implicitHeight + 2 * Theme.sheetPadding
     focus: true

@@ -29,7 +29,7 @@ T.TextField {
     opacity: enabled ? 1 : 0.45
     Accessible.name: accessibleName
     onTextEdited: field.edited(field.text)
-    Keys.onMenuPressed: menu.openAtCaret()
+    Keys.onMenuPressed: menu.openAtCaret(cursorRectangle)
 
     TextMenu {
         id: menu

@@ -12,38 +12,30 @@ TapHandler {
     /// Whether the field has only lent the keyboard to its menu.
     property bool shown: false
 
-    function open(place: point) {
-        field.forceActiveFocus(Qt.PopupFocusReason);
-        shown = true;
-        maker.active = true;
-        (maker.object as FieldMenu).openAt(place);
-    }
-    function openAtCaret() {
-        const caret = (field as TextInput)?.cursorRectangle ?? (field as TextEdit)?.cursorRectangle;
-        open(Qt.point(caret.x, caret.y + caret.height));
-    }
-
-    acceptedButtons: Qt.RightButton
-    acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-    gesturePolicy: TapHandler.WithinBounds
-    onTapped: eventPoint => open(eventPoint.position)
-
-    component FieldMenu: PopupMenu {
-        function openAt(place: point) {
-            x = place.x;
-            y = place.y;
-            open();
-        }
-    }
-
     readonly property Instantiator maker: Instantiator {
         active: false
 
-        FieldMenu {
+        PopupMenu {
             parent: menu.field
             onAboutToShow: entries = TextCommands.entriesFor(menu.field)
             onClosed: menu.shown = false
             onChosen: index => TextCommands.run(entries[index].command, menu.field)
         }
     }
+
+    function open(place: point) {
+        field.forceActiveFocus(Qt.PopupFocusReason);
+        shown = true;
+        maker.active = true;
+        const popup = maker.object as PopupMenu;
+        popup.x = place.x;
+        popup.y = place.y;
+        popup.open();
+    }
+    function openAtCaret(caret: rect) {
+        open(Qt.point(caret.x, caret.y + caret.height));
+    }
+
+    acceptedButtons: Qt.RightButton
+    onTapped: eventPoint => open(eventPoint.position)
 }

@@ -32,8 +32,8 @@ SheetFrame {
 
             ScrollArea {
                 anchors.fill: parent
-                anchors.margins: 12
-                anchors.rightMargin: 1
+                inset: 12
+                cornerRadius: parent.radius
                 contentHeight: example.implicitHeight
                 accessibleName: sheet.model.exampleCaption
 
