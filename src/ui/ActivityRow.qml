@@ -5,6 +5,9 @@ import Velmora
 Item {
     id: row
 
+    /// Whether the keyboard stands on the row.
+    property bool current: false
+
     required property int index
     required property string name
     required property string symbol
@@ -14,11 +17,20 @@ Item {
 
     implicitHeight: words.height + 12
     Accessible.role: Accessible.ListItem
+    Accessible.focused: current
     Accessible.name: name + ", " + details + ", " + clockTime
 
     MouseArea {
         anchors.fill: parent
         preventStealing: true
+    }
+    Rectangle {
+        anchors.fill: parent
+        anchors.leftMargin: 4
+        anchors.rightMargin: 4
+        radius: Theme.radius
+        visible: row.current
+        color: Theme.quaternary
     }
     HorizontalDivider {
         x: words.x

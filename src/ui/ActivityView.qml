@@ -46,10 +46,15 @@ ColumnLayout {
             activeFocusOnTab: true
             keyNavigationEnabled: true
             highlightMoveDuration: 0
+            // The keyboard begins at the first row in sight, wherever new ones have moved the last.
+            onActiveFocusChanged: if (activeFocus) currentIndex = Math.max(0, indexAt(1, contentY + 12))
             Accessible.role: Accessible.List
             Accessible.name: "Activity"
             T.ScrollBar.vertical: SlimScrollBar {}
-            delegate: ActivityRow { width: list.width }
+            delegate: ActivityRow {
+                width: list.width
+                current: ListView.isCurrentItem && list.activeFocus
+            }
         }
     }
 }

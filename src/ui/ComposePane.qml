@@ -62,6 +62,8 @@ Item {
                     text: pane.model.senderTitle
                     help: "The number your texts come from"
                     entries: pane.model.senderEntries
+                    marksColumn: true
+                    markedIndex: pane.model.senderIndex
                     onChosen: index => pane.model.chooseSender(index)
                 }
             }

@@ -19,6 +19,11 @@ ApplicationWindow {
     title: presentation.window.title
     color: Theme.windowBackground
     font.family: Theme.fontFamily
+    onClosing: close => {
+        close.accepted = presentation.window.mayClose();
+        if (!close.accepted)
+            requestActivate();
+    }
 
     menuBar: WindowMenuBar {
         id: bar

@@ -28,11 +28,14 @@ Instantiator {
             readonly property bool taken: modelData.command === MenuCommands.Command.send
                                           && menus.presentation.window.paused
 
-            sequence: modelData.shortcut
+            sequences: modelData.sequences
+            autoRepeat: false
             context: onContent || modelData.command === MenuCommands.Command.close
                      ? Qt.WindowShortcut : Qt.ApplicationShortcut
-            enabled: sequence !== "" && modelData.reach !== MenuCommands.Reach.text && !taken
+            enabled: modelData.shortcut !== "" && modelData.reach !== MenuCommands.Reach.text && !taken
                      && (!onContent || menus.presentation.window.commandsEnabled)
+                     && (modelData.reach !== MenuCommands.Reach.agreed
+                         || menus.presentation.window.settingsEnabled)
             onActivated: menus.presentation.menus.run(key.modelData.command)
         }
     }

@@ -34,8 +34,10 @@ Platform.MenuBar {
                     text: modelData.text
                     separator: modelData.separator
                     shortcut: taken ? "" : modelData.shortcut
-                    enabled: modelData.reach !== MenuCommands.Reach.content
-                             || bar.presentation.window.commandsEnabled
+                    enabled: (modelData.reach !== MenuCommands.Reach.content
+                              || bar.presentation.window.commandsEnabled)
+                             && (modelData.reach !== MenuCommands.Reach.agreed
+                                 || bar.presentation.window.settingsEnabled)
                     role: modelData.command === MenuCommands.Command.about
                           ? Platform.MenuItem.AboutRole
                           : modelData.command === MenuCommands.Command.settings

@@ -42,7 +42,19 @@ FocusScope {
         selectedTextColor: Theme.primary
         font: shown.font
         focus: true
-        onActiveFocusChanged: activeFocus ? passage.entered() : deselect()
+        onActiveFocusChanged: {
+            if (activeFocus)
+                passage.entered();
+            else if (!menu.shown)
+                deselect();
+        }
+        Component.onCompleted: TextCommands.passShortcuts(selection)
+        Keys.onMenuPressed: menu.openAtCaret(cursorRectangle)
         Accessible.ignored: true
+
+        TextMenu {
+            id: menu
+            field: selection
+        }
     }
 }

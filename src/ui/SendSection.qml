@@ -69,6 +69,7 @@ ColumnLayout {
 
     Shortcut {
         enabled: section.paused
+        autoRepeat: false
         sequences: ["Ctrl+Return", "Ctrl+Enter"]
         onActivated: section.model.resume()
     }

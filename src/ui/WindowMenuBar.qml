@@ -24,6 +24,7 @@ Rectangle {
 
     Shortcut {
         sequence: "F10"
+        enabled: bar.visible
         onActivated: bar.open(0)
     }
     Row {

@@ -81,14 +81,18 @@ QString ComposeModel::senderTitle() const {
     return number.isEmpty() ? u"Choose number"_s : displayPhone(number);
 }
 
-QVariantList ComposeModel::senderEntries() const {
-    QVariantList entries;
-    for (const NumberInfo& each : model_.numbers.value()) {
-        const bool chosen = each.number == model_.config().senderNumber;
-        entries.append(QVariantMap{{u"text"_s, displayPhone(each.number)},
-                                   {u"symbol"_s, chosen ? u"checkmark"_s : QString()}});
-    }
+QStringList ComposeModel::senderEntries() const {
+    QStringList entries;
+    for (const NumberInfo& each : model_.numbers.value())
+        entries.append(displayPhone(each.number));
     return entries;
+}
+
+int ComposeModel::senderIndex() const {
+    const std::vector<NumberInfo> numbers = model_.numbers;
+    const auto chosen =
+        std::ranges::find(numbers, model_.config().senderNumber, &NumberInfo::number);
+    return chosen == numbers.end() ? -1 : static_cast<int>(chosen - numbers.begin());
 }
 
 bool ComposeModel::locked() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QStringList>
 #include <QVariantList>
 #include <QtQmlIntegration>
 
@@ -20,7 +21,8 @@ class ComposeModel final : public QObject {
     Q_PROPERTY(QString hint READ hint NOTIFY messageChanged)
     Q_PROPERTY(QVariantList insertEntries READ insertEntries CONSTANT)
     Q_PROPERTY(QString senderTitle READ senderTitle NOTIFY senderChanged)
-    Q_PROPERTY(QVariantList senderEntries READ senderEntries NOTIFY senderChanged)
+    Q_PROPERTY(QStringList senderEntries READ senderEntries NOTIFY senderChanged)
+    Q_PROPERTY(int senderIndex READ senderIndex NOTIFY senderChanged)
     Q_PROPERTY(bool locked READ locked NOTIFY stageChanged)
     Q_PROPERTY(Stage stage READ stage NOTIFY stageChanged)
     Q_PROPERTY(QString sendTitle READ sendTitle NOTIFY sendChanged)
@@ -36,39 +38,59 @@ class ComposeModel final : public QObject {
     enum class Stage { ready, running, paused, stopping };
     Q_ENUM(Stage)
 
+    /// `model` outlives it.
     explicit ComposeModel(AppModel& model);
 
     /// Whether there is a list to write to; else the column says so.
     [[nodiscard]] bool showsComposer() const;
+    /// The chosen list's message as it is stored.
     [[nodiscard]] QString message() const;
     /// What the message belongs to: the chosen list, empty without one. It is announced after the
     /// message.
     [[nodiscard]] QString subject() const;
+    /// The note under the message, which speaks of its versions or of the "Insert" menu.
     [[nodiscard]] QString hint() const;
     /// Entries for a menu button; `insert` takes the chosen one's place.
     [[nodiscard]] static QVariantList insertEntries();
-    /// The number to send from, and an entry for each that there is.
+    /// The chosen number as a person reads it, or the request to choose one.
     [[nodiscard]] QString senderTitle() const;
-    [[nodiscard]] QVariantList senderEntries() const;
+    /// All numbers to send from; `chooseSender` takes the chosen one's place.
+    [[nodiscard]] QStringList senderEntries() const;
+    /// The place of the chosen number; -1 when it is not among them.
+    [[nodiscard]] int senderIndex() const;
 
     /// True during a run, which keeps its message and its number.
     [[nodiscard]] bool locked() const;
     [[nodiscard]] Stage stage() const;
+    /// The send button's title, with the number of checked people.
     [[nodiscard]] QString sendTitle() const;
+    /// Whether anyone is checked.
     [[nodiscard]] bool canSend() const;
+    /// Whether there is room for the status, which may still be empty.
     [[nodiscard]] bool showsStatus() const;
+    /// How the run stands, in words; empty when there is nothing to say.
     [[nodiscard]] QString status() const;
+    /// How many of the run's people are done, of `progressTotal`.
     [[nodiscard]] double progress() const;
     /// At least 1.
     [[nodiscard]] double progressTotal() const;
+    /// Whether the log has a line.
     [[nodiscard]] bool showsActivity() const;
 
+    /// Stores the message as typed. Does nothing during a run.
     Q_INVOKABLE void setMessage(const QString& text);
-    /// Adds what the entry at `place` stands for at the message's end.
+    /// Adds what the entry at `place` stands for at the message's end. Does nothing during a run or
+    /// where there is no such entry.
     Q_INVOKABLE void insert(int place);
+    /// Sends from the number at `place` from now on and checks the list against it. Does nothing
+    /// during a run or where there is no such number.
     Q_INVOKABLE void chooseSender(int place);
+    /// Asks for the run to be confirmed, or has the alert say why it cannot be. Does nothing during
+    /// a run.
     Q_INVOKABLE void requestRun();
+    /// Ends the active run after the text in hand.
     Q_INVOKABLE void stop();
+    /// Lets a paused run go on.
     Q_INVOKABLE void resume();
 
   Q_SIGNALS:

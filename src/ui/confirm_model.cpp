@@ -1,5 +1,7 @@
 #include "ui/confirm_model.h"
 
+#include <algorithm>
+
 #include "core/phone.h"
 #include "ui/run_display.h"
 
@@ -43,6 +45,12 @@ QString ConfirmModel::pace() const {
 
 QString ConfirmModel::runName() const {
     return model_.batchName;
+}
+
+int ConfirmModel::longestRunName() const {
+    // Four bytes each at most, of the 255 that a file's name has. A list's own long name stays.
+    constexpr qsizetype longest = 60;
+    return static_cast<int>(std::max(longest, model_.batchName.value().size()));
 }
 
 void ConfirmModel::setRunName(const QString& name) {

@@ -9,8 +9,15 @@
 namespace velmora {
 
 FirstRunModel::FirstRunModel(AppModel& model) : model_(model) {
-    connect(&model_, &AppModel::numbersChanged, this, &FirstRunModel::changed);
-    connect(&model_, &AppModel::numbersCheckedAtChanged, this, &FirstRunModel::changed);
+    // At the loop's next turn: a look that finds one number chooses it, and the sheet leaves.
+    connect(&model_, &AppModel::numbersChanged, this, &FirstRunModel::follow, Qt::QueuedConnection);
+    connect(&model_, &AppModel::numbersCheckedAtChanged, this, &FirstRunModel::follow,
+            Qt::QueuedConnection);
+}
+
+void FirstRunModel::follow() {
+    if (model_.needsSenderSetup())
+        Q_EMIT changed();
 }
 
 void FirstRunModel::openTerms() {

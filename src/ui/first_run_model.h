@@ -51,9 +51,13 @@ class FirstRunModel final : public QObject {
     Q_INVOKABLE void notNow();
 
   Q_SIGNALS:
+    /// Announced while the choice of a number is to be made: the sheet keeps its words while it
+    /// leaves.
     void changed();
 
   private:
+    void follow();
+
     AppModel& model_;
 };
 

@@ -5,6 +5,8 @@
 #include <QWindow>
 #include <vector>
 
+#include "ui/text_commands.h"
+
 namespace velmora {
 
 namespace {
@@ -12,8 +14,11 @@ namespace {
 using Command = MenuCommands::Command;
 using Reach = MenuCommands::Reach;
 
-QVariant menu(const QString& title, const std::vector<MenuEntry>& entries) {
-    Menu made{.title = title, .application = title == QLatin1String("Velmora"), .entries = {}};
+enum class Owner { application, window };
+
+QVariant menu(const QString& title, const std::vector<MenuEntry>& entries,
+              Owner owner = Owner::window) {
+    Menu made{.title = title, .application = owner == Owner::application, .entries = {}};
     for (const MenuEntry& entry : entries) {
         made.entries.append(QVariant::fromValue(entry));
     }
@@ -29,22 +34,13 @@ MenuEntry item(const char16_t* text, const char16_t* shortcut, Command command,
 }
 
 QVariant applicationMenu() {
-    return menu(QStringLiteral("Velmora"), {item(u"About Velmora", u"", Command::about),
-                                            {},
-                                            item(u"Settings\u2026", u"Ctrl+,", Command::settings),
-                                            {},
-                                            item(u"Quit Velmora", u"Ctrl+Q", Command::quit)});
-}
-
-QVariant editMenu() {
-    return menu(QStringLiteral("Edit"),
-                {item(u"Undo", u"Ctrl+Z", Command::undo, Reach::text),
-                 item(u"Redo", u"Ctrl+Shift+Z", Command::redo, Reach::text),
+    return menu(QStringLiteral("Velmora"),
+                {item(u"About Velmora", u"", Command::about),
                  {},
-                 item(u"Cut", u"Ctrl+X", Command::cut, Reach::text),
-                 item(u"Copy", u"Ctrl+C", Command::copy, Reach::text),
-                 item(u"Paste", u"Ctrl+V", Command::paste, Reach::text),
-                 item(u"Select All", u"Ctrl+A", Command::selectAllText, Reach::text)});
+                 item(u"Settings\u2026", u"Ctrl+,", Command::settings, Reach::agreed),
+                 {},
+                 item(u"Quit Velmora", u"Ctrl+Q", Command::quit)},
+                Owner::application);
 }
 
 QVariant peopleMenu() {
@@ -55,32 +51,6 @@ QVariant peopleMenu() {
                  item(u"Reload from Contacts", u"Ctrl+R", Command::reload, Reach::content),
                  {},
                  item(u"Send\u2026", u"Ctrl+Return", Command::send, Reach::content)});
-}
-
-const char* textOperation(Command command) {
-    switch (command) {
-        case Command::undo:
-            return "undo";
-        case Command::redo:
-            return "redo";
-        case Command::cut:
-            return "cut";
-        case Command::copy:
-            return "copy";
-        case Command::paste:
-            return "paste";
-        default:
-            return "selectAll";
-    }
-}
-
-/// What has the keyboard does it, when it is a text field; anything else has no such operation.
-void runOnText(Command command) {
-    QObject* target = QGuiApplication::focusObject();
-    const QByteArray operation = textOperation(command);
-    if (target != nullptr && target->metaObject()->indexOfMethod(operation + "()") >= 0) {
-        QMetaObject::invokeMethod(target, operation.constData());
-    }
 }
 
 void runOnWindow(Command command) {
@@ -105,13 +75,21 @@ QString MenuEntry::keys() const {
     return QKeySequence(shortcut, QKeySequence::PortableText).toString(QKeySequence::NativeText);
 }
 
+QStringList MenuEntry::sequences() const {
+    const QLatin1String mainReturn("Return");
+    QStringList all(shortcut);
+    if (shortcut.endsWith(mainReturn))
+        all.append(shortcut.chopped(mainReturn.size()) + QLatin1String("Enter"));
+    return all;
+}
+
 MenuCommands::MenuCommands(AppModel& model) : model_(model) {}
 
 QVariantList MenuCommands::menus() const {
     return {
         applicationMenu(),
         menu(QStringLiteral("File"), {item(u"Close", u"Ctrl+W", Command::close)}),
-        editMenu(),
+        menu(QStringLiteral("Edit"), TextCommands::editMenu()),
         peopleMenu(),
         menu(QStringLiteral("Window"),
              {item(u"Minimize", u"Ctrl+M", Command::minimize), item(u"Zoom", u"", Command::zoom)}),
@@ -146,7 +124,7 @@ void MenuCommands::run(Command command) {
         case Command::zoom:
             return runOnWindow(command);
         default:
-            return runOnText(command);
+            return TextCommands::run(command, QGuiApplication::focusObject());
     }
 }
 

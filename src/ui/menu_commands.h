@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QVariantList>
 #include <QtQmlIntegration>
 
@@ -41,9 +42,10 @@ class MenuCommands final : public QObject {
     };
     Q_ENUM(Command)
 
-    /// Who listens to an item's shortcut: the whole application, the main window while nothing
-    /// covers its content, or the text field that has the keyboard.
-    enum class Reach { application, content, text };
+    /// Where an item is offered and its shortcut heard: everywhere, everywhere once the terms are
+    /// accepted, in the main window while nothing covers its content, or in the text field that has
+    /// the keyboard.
+    enum class Reach { application, agreed, content, text };
     Q_ENUM(Reach)
 
     explicit MenuCommands(AppModel& model);
@@ -66,6 +68,8 @@ struct MenuEntry {
     Q_PROPERTY(QString text MEMBER text)
     Q_PROPERTY(QString shortcut MEMBER shortcut)
     Q_PROPERTY(QString keys READ keys)
+    Q_PROPERTY(QStringList sequences READ sequences)
+    Q_PROPERTY(bool enabled MEMBER enabled)
     Q_PROPERTY(bool separator READ separator)
     Q_PROPERTY(velmora::MenuCommands::Command command MEMBER command)
     Q_PROPERTY(velmora::MenuCommands::Reach reach MEMBER reach)
@@ -73,12 +77,15 @@ struct MenuEntry {
   public:
     /// The shortcut as the desktop writes it.
     [[nodiscard]] QString keys() const;
+    /// All that press the shortcut, Return on the keypad included.
+    [[nodiscard]] QStringList sequences() const;
     [[nodiscard]] bool separator() const { return command == MenuCommands::Command::none; }
 
     QString text;
     QString shortcut;  ///< in portable form, where Ctrl is the Mac's Command; may be empty
     MenuCommands::Command command = MenuCommands::Command::none;
     MenuCommands::Reach reach = MenuCommands::Reach::application;
+    bool enabled = true;  ///< whether it can be chosen, wherever it is offered
 };
 
 /// One menu of the bar.

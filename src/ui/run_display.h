@@ -13,17 +13,18 @@ namespace velmora {
 /// nothing to say.
 [[nodiscard]] QString statusLine(const Runner& runner);
 
-/// The send button's title for that many checked people.
+/// The send button's title when `people` are checked.
 [[nodiscard]] QString sendTitle(qsizetype people);
 
-/// The confirm sheet's question for that many checked people.
+/// The confirm sheet's question when `people` are checked.
 [[nodiscard]] QString confirmTitle(qsizetype people);
 
-/// How far apart the texts will be: whole seconds, cut toward zero. A delay that is no number or
-/// too large for a whole one is written out as it stands.
+/// How far apart the texts will be: whole seconds, cut toward zero. A delay that is not finite or
+/// does not fit into 64 bits is written with its decimals or exponent, or as "inf" or "nan".
 [[nodiscard]] QString paceLine(const AppConfig& config);
 
-/// What the "Insert" menu brings, as the message stands.
+/// The note under the message: who gets which version once there are several, before that what the
+/// "Insert" menu brings.
 [[nodiscard]] QString messageHint(const QString& message);
 
 /// The symbol of a log entry's status, and the name of its colour in the theme.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "core/phone.h"
 
@@ -22,13 +23,20 @@ bool isListed(const std::vector<NumberInfo>& numbers, const QString& number) {
 
 }  // namespace
 
-SettingsModel::SettingsModel(AppModel& model) : model_(model) {
-    connect(&model_, &AppModel::configChanged, this, &SettingsModel::changed);
-    connect(&model_, &AppModel::numbersChanged, this, &SettingsModel::changed);
+SettingsModel::SettingsModel(AppModel& model)
+    : model_(model), senderNumber_(model.config().senderNumber) {
+    connect(&model_, &AppModel::configChanged, this, &SettingsModel::followConfig);
+    connect(&model_, &AppModel::numbersChanged, this, &SettingsModel::senderChanged);
     connect(&model_, &AppModel::testPhoneChanged, this, &SettingsModel::changed);
     connect(&model_, &AppModel::testResultChanged, this, &SettingsModel::changed);
     connect(&model_, &AppModel::testingChanged, this, &SettingsModel::changed);
     connect(&model_.runner(), &Runner::stateChanged, this, &SettingsModel::changed);
+}
+
+void SettingsModel::followConfig() {
+    Q_EMIT changed();
+    if (std::exchange(senderNumber_, model_.config().senderNumber) != model_.config().senderNumber)
+        Q_EMIT senderChanged();
 }
 
 bool SettingsModel::locked() const {
@@ -77,7 +85,7 @@ double SettingsModel::delayMin() const {
 }
 
 void SettingsModel::setDelayMin(double seconds) {
-    edit([](AppConfig& config, double value) { config.delayMin = value; }, seconds);
+    edit([&](AppConfig& config) { config.delayMin = seconds; });
 }
 
 double SettingsModel::delayMax() const {
@@ -85,7 +93,7 @@ double SettingsModel::delayMax() const {
 }
 
 void SettingsModel::setDelayMax(double seconds) {
-    edit([](AppConfig& config, double value) { config.delayMax = value; }, seconds);
+    edit([&](AppConfig& config) { config.delayMax = seconds; });
 }
 
 int SettingsModel::startHour() const {
@@ -119,8 +127,9 @@ int SettingsModel::maxFailures() const {
 }
 
 void SettingsModel::setMaxFailures(int count) {
-    edit([](AppConfig& config, double value) { config.maxFailures = static_cast<qint64>(value); },
-         std::clamp(count, fewestFailures(), mostFailures()));
+    edit([&](AppConfig& config) {
+        config.maxFailures = std::clamp(count, fewestFailures(), mostFailures());
+    });
 }
 
 QString SettingsModel::failuresText() const {
@@ -137,7 +146,8 @@ void SettingsModel::setTestPhone(const QString& typed) {
 }
 
 bool SettingsModel::canSendTest() const {
-    return !model_.testing && !model_.testPhone.value().isEmpty() && !locked();
+    return model_.termsAccepted() && !model_.testing && !model_.testPhone.value().isEmpty() &&
+           !locked();
 }
 
 void SettingsModel::sendTest() {
@@ -149,9 +159,9 @@ QString SettingsModel::testResult() const {
     return model_.testResult;
 }
 
-void SettingsModel::edit(void (*change)(AppConfig&, double), double value) {
+void SettingsModel::edit(const std::function<void(AppConfig&)>& change) {
     if (!locked())
-        model_.editConfig([&](AppConfig& config) { change(config, value); });
+        model_.editConfig(change);
 }
 
 void SettingsModel::setTime(QuietField field, int hour, int minute) {

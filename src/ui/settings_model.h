@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 #include <QtQmlIntegration>
+#include <functional>
 #include <optional>
 
 #include "app/app_model.h"
@@ -18,9 +19,9 @@ class SettingsModel final : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("Belongs to the presentation")
     Q_PROPERTY(bool locked READ locked NOTIFY changed)
-    Q_PROPERTY(QStringList senderOptions READ senderOptions NOTIFY changed)
-    Q_PROPERTY(int senderIndex READ senderIndex NOTIFY changed)
-    Q_PROPERTY(bool numbersMissing READ numbersMissing NOTIFY changed)
+    Q_PROPERTY(QStringList senderOptions READ senderOptions NOTIFY senderChanged)
+    Q_PROPERTY(int senderIndex READ senderIndex NOTIFY senderChanged)
+    Q_PROPERTY(bool numbersMissing READ numbersMissing NOTIFY senderChanged)
     Q_PROPERTY(double delayMin READ delayMin WRITE setDelayMin NOTIFY changed)
     Q_PROPERTY(double delayMax READ delayMax WRITE setDelayMax NOTIFY changed)
     Q_PROPERTY(int startHour READ startHour NOTIFY changed)
@@ -74,6 +75,8 @@ class SettingsModel final : public QObject {
 
     [[nodiscard]] QString testPhone() const;
     void setTestPhone(const QString& typed);
+    /// Whether there is a number to send it to and neither a run nor a test under way, nor the
+    /// terms still to be accepted.
     [[nodiscard]] bool canSendTest() const;
     /// Sends the test text, when that can be done.
     Q_INVOKABLE void sendTest();
@@ -81,13 +84,16 @@ class SettingsModel final : public QObject {
 
   Q_SIGNALS:
     void changed();
+    void senderChanged();
 
   private:
-    void edit(void (*change)(AppConfig&, double), double value);
+    void followConfig();
+    void edit(const std::function<void(AppConfig&)>& change);
     void setTime(QuietField field, int hour, int minute);
     [[nodiscard]] QStringList senderValues() const;
 
     AppModel& model_;
+    QString senderNumber_;  // what the views were last told
     std::optional<QCoro::Task<>> test_;
 };
 

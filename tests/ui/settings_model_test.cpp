@@ -90,10 +90,15 @@ TEST_F(Settings, NumberAndPacingAreLockedDuringARun) {
     EXPECT_GT(told, 0);
 }
 
-// Catches a test that is sent without a number or twice at once, and an outcome that is not shown.
+// Catches a test that is sent before the terms are accepted, without a number or twice at once, and
+// an outcome that is not shown.
 TEST_F(Settings, SendsOneTestAtATime) {
     started();
-    EXPECT_FALSE(settings().canSendTest());
+    settings().setTestPhone(u"(212) 555-0102"_s);
+    EXPECT_FALSE(view->canSendTest());
+    model->acceptTerms();
+    view->setTestPhone({});
+    EXPECT_FALSE(view->canSendTest());
     view->setTestPhone(u"(212) 555-0102"_s);
     ASSERT_TRUE(view->canSendTest());
     view->sendTest();

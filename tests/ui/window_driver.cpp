@@ -125,17 +125,22 @@ QStringList WindowDriver::spoken(const QString& name, QWindow* in) {
     return all;
 }
 
-QPoint WindowDriver::place(const QString& name, QAccessible::Role role, QWindow* in) {
-    QWindow* window = in == nullptr ? &this->window() : in;
+QRect WindowDriver::area(const QString& name, QAccessible::Role role, QWindow* in) {
+    QWindow* there = in == nullptr ? &window() : in;
     // A frame puts everything where it belongs.
     QEvent frame(QEvent::UpdateRequest);
-    QCoreApplication::sendEvent(window, &frame);
+    QCoreApplication::sendEvent(there, &frame);
     QAccessibleInterface* found = nullptr;
     until([&] {
-        found = findBelow(QAccessible::queryAccessibleInterface(window), name, role);
+        found = findBelow(QAccessible::queryAccessibleInterface(there), name, role);
         return found != nullptr;
     });
-    return found == nullptr ? QPoint() : window->mapFromGlobal(found->rect().center());
+    return found == nullptr ? QRect() : found->rect().translated(there->mapFromGlobal(QPoint()));
+}
+
+QPoint WindowDriver::place(const QString& name, QAccessible::Role role, QWindow* in) {
+    const QRect found = area(name, role, in);
+    return found.isNull() ? QPoint() : found.center();
 }
 
 bool WindowDriver::click(const QString& name, QAccessible::Role role, QWindow* in) {

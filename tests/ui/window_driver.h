@@ -38,7 +38,10 @@ class WindowDriver {
     /// there is no such thing.
     bool click(const QString& name, QAccessible::Role role = QAccessible::NoRole,
                QWindow* in = nullptr);
-    /// Where the thing of that name is; null when there is none.
+    /// Where the thing of that name is, in its window; null when there is none.
+    [[nodiscard]] QRect area(const QString& name, QAccessible::Role role = QAccessible::NoRole,
+                             QWindow* in = nullptr);
+    /// Its middle.
     [[nodiscard]] QPoint place(const QString& name, QAccessible::Role role = QAccessible::NoRole,
                                QWindow* in = nullptr);
     void clickAt(QPoint place, QWindow* in = nullptr);

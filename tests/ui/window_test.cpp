@@ -51,6 +51,8 @@ TEST_F(WindowTest, FirstStartLeadsThroughItsSheets) {
     EXPECT_EQ(model->config().selectedGroupID, allContactsID) << "clicked through the sheet";
     user.key(Qt::Key_A, command | Qt::ShiftModifier);
     EXPECT_TRUE(model->selection().isEmpty()) << "a shortcut reached under the sheet";
+    user.key(Qt::Key_Comma, command);
+    EXPECT_EQ(WindowDriver::windowTitled(u"Settings"_s), nullptr) << "a test could be sent";
     const QStringList termsStops = {u"Read the full terms of use"_s, u"Quit"_s, u"I Agree"_s};
     EXPECT_THAT(tabStops(), ::testing::UnorderedElementsAreArray(termsStops));
 
@@ -133,10 +135,11 @@ TEST_F(WindowTest, AlertLiesOverEverything) {
     EXPECT_FALSE(model->showingFDAHelp);
 }
 
-// Catches a menu that does not open or does another's work, and a shortcut that two things claim.
+// Catches a menu that does not open or does another's work, a shortcut that two things claim or a
+// passage swallows, and a window that ends a run by closing.
 TEST_F(WindowTest, MenusAndShortcutsDoTheirWork) {
     home.writeMessages(messagesOnLine(myOtherLine));
-    withFriends().setCurrentTemplate(u"Hello"_s);
+    withFriends().setCurrentTemplate(u"Hello {first_name}"_s);
     model->setSenderNumber(myLine);
     WindowDriver& user = show();
     user.click(u"Friends, 3"_s);
@@ -155,6 +158,7 @@ TEST_F(WindowTest, MenusAndShortcutsDoTheirWork) {
     user.key(Qt::Key_Down);
     model->selectShown();
 
+    user.clickAt(user.place(u"Select Ann Lee"_s) + QPoint(60, 18));  // her text
     user.key(Qt::Key_Return, command);
     ASSERT_TRUE(user.until([&] { return user.shows(u"Start Sending"_s); }));
     user.key(Qt::Key_Return);
@@ -162,9 +166,50 @@ TEST_F(WindowTest, MenusAndShortcutsDoTheirWork) {
     user.settle();
     user.key(Qt::Key_Return, command);
     EXPECT_EQ(model->runner().state.value(), Runner::State::running);
+
+    user.key(Qt::Key_W, command);
+    EXPECT_TRUE(user.window().isVisible()) << "a run ended without a word";
+    ASSERT_TRUE(user.until([&] { return user.shows(u"OK"_s); }));
+    user.key(Qt::Key_Escape);
+    EXPECT_FALSE(model->alert.value().has_value());
+    QEvent quit(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &quit);
+    EXPECT_TRUE(user.window().isVisible() && model->alert.value().has_value());
+    model->runner().stop();
+    ASSERT_TRUE(user.until([&] { return !model->runner().isActive(); }));
+    EXPECT_TRUE(user.window().close());
 }
 
-// Catches a settings window that opens twice, or keeps its keys from closing it.
+// Catches an insert or the first words of a list that cannot be undone or that can, and an undo
+// that brings another list's words.
+TEST_F(WindowTest, MessageUndoesWhatWasDoneToItAlone) {
+    withFriends().setCurrentTemplate(u"Hello"_s);
+    const QString more = u"Hello again"_s;
+    model->editConfig([&](AppConfig& config) { config.templates[allContactsID] = more; });
+    WindowDriver& user = show();
+    user.click(u"Message"_s, QAccessible::EditableText);
+    const auto undo = [&] { user.key(Qt::Key_Z, command); };
+    undo();
+    EXPECT_EQ(model->currentTemplate(), u"Hello"_s);
+    user.key(Qt::Key_A, command);
+    user.key(Qt::Key_Backspace);
+    user.click(u"Insert"_s);
+    user.click(u"First name"_s);
+    EXPECT_EQ(model->currentTemplate(), u"{first_name}"_s);
+    undo();
+    undo();
+    EXPECT_EQ(model->currentTemplate(), u"Hello"_s);
+    user.click(u"All Contacts, 3"_s);
+    user.click(u"Message"_s, QAccessible::EditableText);
+    undo();
+    EXPECT_EQ(model->currentTemplate(), more);
+
+    model->numbers = std::vector<NumberInfo>();
+    user.click(u"(212) 555-9999"_s, QAccessible::ButtonMenu);
+    EXPECT_EQ(user.focused(), u"Message"_s) << "a menu of nothing took the keyboard";
+}
+
+// Catches a settings window that opens twice, keeps its keys from closing it or cuts the number.
 TEST_F(WindowTest, SettingsAreAWindowOfTheirOwn) {
     withFriends();
     WindowDriver& user = show();
@@ -173,6 +218,13 @@ TEST_F(WindowTest, SettingsAreAWindowOfTheirOwn) {
     QWindow* settings = WindowDriver::windowTitled(u"Settings"_s);
     EXPECT_TRUE(user.shows(u"Send Test"_s, settings));
     ASSERT_TRUE(user.until([&] { return QGuiApplication::focusWindow() == settings; }));
+    const auto width = [&] {
+        return user.area(u"Send from"_s, QAccessible::ComboBox, settings).width();
+    };
+    const int before = width();
+    model->numbers = {{myLine, 4242}};
+    user.settle();
+    EXPECT_GE(width(), before + 12) << "two digits and a letter more";
     user.key(Qt::Key_Escape);
     EXPECT_FALSE(settings->isVisible());
     EXPECT_TRUE(user.window().isVisible());

@@ -11,14 +11,22 @@ FocusScope {
 
     signal dismissed
 
+    function takeReturn(event: KeyEvent): bool {
+        const plain = (event.modifiers & ~Qt.KeypadModifier) === Qt.NoModifier;
+        if (plain && !event.isAutoRepeat)
+            dismissed();
+        return plain;
+    }
+
+    height: Math.min(implicitHeight, Window.height)
     implicitWidth: 280
     implicitHeight: column.implicitHeight + 36
     focus: true
     Accessible.role: Accessible.AlertMessage
     Accessible.name: title
     Accessible.description: message
-    Keys.onReturnPressed: dismissed()
-    Keys.onEnterPressed: dismissed()
+    Keys.onReturnPressed: event => event.accepted = takeReturn(event)
+    Keys.onEnterPressed: event => event.accepted = takeReturn(event)
     Keys.onPressed: event => {
         event.accepted = event.matches(StandardKey.Cancel);
         if (event.accepted)
@@ -52,11 +60,20 @@ FocusScope {
             font.weight: Font.Bold
             horizontalAlignment: Text.AlignHCenter
         }
-        BodyText {
+        ScrollArea {
+            id: area
             Layout.fillWidth: true
-            text: alert.message
-            font.pixelSize: Theme.callout
-            horizontalAlignment: Text.AlignHCenter
+            Layout.fillHeight: true
+            contentHeight: words.implicitHeight
+            accessibleName: alert.title
+
+            BodyText {
+                id: words
+                width: area.width
+                text: alert.message
+                font.pixelSize: Theme.callout
+                horizontalAlignment: Text.AlignHCenter
+            }
         }
         PushButton {
             Layout.fillWidth: true

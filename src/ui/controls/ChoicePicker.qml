@@ -13,13 +13,20 @@ MenuOpener {
 
     signal chosen(int index)
 
-    implicitWidth: popup.implicitWidth + 8
+    implicitWidth: Math.ceil(Math.max(0, ...options.map(each => face.advanceWidth(each))))
+                   + line.anchors.leftMargin + line.spacing + arrows.implicitWidth
+                   + line.anchors.rightMargin
     implicitHeight: Theme.controlHeight
     text: options[currentIndex] ?? ""
     menu: popup
     Accessible.role: Accessible.ComboBox
     Accessible.name: accessibleName
     Accessible.description: text
+
+    FontMetrics {
+        id: face
+        font: words.font
+    }
 
     PopupMenu {
         id: popup
@@ -40,12 +47,14 @@ MenuOpener {
     FocusRing { shown: picker.activeFocus }
 
     RowLayout {
+        id: line
         anchors.fill: parent
         anchors.leftMargin: 9
         anchors.rightMargin: 5
         spacing: 6
 
         BodyText {
+            id: words
             Layout.fillWidth: true
             text: picker.text
             wrapMode: Text.NoWrap
@@ -53,8 +62,9 @@ MenuOpener {
             Accessible.ignored: true
         }
         Rectangle {
-            Layout.preferredWidth: 16
-            Layout.preferredHeight: 16
+            id: arrows
+            implicitWidth: 16
+            implicitHeight: 16
             radius: 4
             color: Theme.accent
 

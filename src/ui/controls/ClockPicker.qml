@@ -60,7 +60,7 @@ FocusScope {
                 maximumValue: 23
                 accessibleName: picker.accessibleName + " hour"
                 onStepped: delta => clock.stepHour(delta)
-                onTyped: character => clock.typeHour(character)
+                take: character => clock.typeHour(character)
                 onActiveFocusChanged: clock.endTyping()
                 Keys.onRightPressed: minutes.forceActiveFocus(Qt.OtherFocusReason)
             }
@@ -76,7 +76,7 @@ FocusScope {
                 value: clock.minute
                 accessibleName: picker.accessibleName + " minute"
                 onStepped: delta => clock.stepMinute(delta)
-                onTyped: character => clock.typeMinute(character)
+                take: character => clock.typeMinute(character)
                 onActiveFocusChanged: clock.endTyping()
                 Keys.onLeftPressed: hours.forceActiveFocus(Qt.OtherFocusReason)
                 Keys.onRightPressed: if (half.visible) half.forceActiveFocus(Qt.OtherFocusReason)
@@ -84,13 +84,14 @@ FocusScope {
             ClockSegment {
                 id: half
                 visible: clock.twelveHour
+                leftPadding: 4
                 Accessible.ignored: !visible
                 text: clock.halfText
                 value: clock.hour < 12 ? 0 : 1
                 maximumValue: 1
                 accessibleName: picker.accessibleName + " " + text
                 onStepped: delta => clock.stepHalf(delta)
-                onTyped: character => clock.typeHalf(character)
+                take: character => clock.typeHalf(character)
                 Keys.onLeftPressed: minutes.forceActiveFocus(Qt.OtherFocusReason)
             }
         }

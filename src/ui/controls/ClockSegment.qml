@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora
 
-/// One part of a time picker: takes digits and arrows while it has the keyboard.
+/// One part of a time picker: takes characters and arrows while it has the keyboard.
 BodyText {
     id: segment
 
@@ -12,7 +12,8 @@ BodyText {
     readonly property int stepSize: 1
 
     signal stepped(int delta)
-    signal typed(string character)
+    /// Takes a typed character and answers whether it meant something.
+    required property var take
 
     leftPadding: 1
     rightPadding: 1
@@ -29,10 +30,8 @@ BodyText {
     Keys.onUpPressed: stepped(1)
     Keys.onDownPressed: stepped(-1)
     Keys.onPressed: event => {
-        event.accepted = /^[0-9a-zA-Z]$/.test(event.text)
-            && (event.modifiers & (Qt.ControlModifier | Qt.MetaModifier | Qt.AltModifier)) === 0;
-        if (event.accepted)
-            typed(event.text);
+        const command = event.modifiers & (Qt.ControlModifier | Qt.MetaModifier | Qt.AltModifier);
+        event.accepted = command === 0 && take(event.text);
     }
 
     Rectangle {

@@ -3,8 +3,9 @@ import QtQuick
 import QtQuick.Layouts
 import Velmora
 
-/// A button that opens a menu of actions. An entry is `{text, symbol, separator, enabled}`; its
-/// place in `entries` is told by `chosen`.
+/// A button that opens a menu of actions, or of choices with a mark on the one at `markedIndex`. An
+/// entry is a text or `{text, symbol, separator, enabled}`; its place in `entries` is told by
+/// `chosen`.
 MenuOpener {
     id: button
 
@@ -12,6 +13,8 @@ MenuOpener {
     property bool borderless: false
     property string help
     property var entries: []
+    property bool marksColumn: false
+    property int markedIndex: -1
     property int fontSize: Theme.body
     readonly property int leftPadding: borderless ? 0 : 9
     readonly property int rightPadding: borderless ? 0 : 7
@@ -30,6 +33,8 @@ MenuOpener {
         y: button.height + 3
         width: Math.max(implicitWidth, button.borderless ? 0 : button.width)
         entries: button.entries
+        marksColumn: button.marksColumn
+        markedIndex: button.markedIndex
         onChosen: index => button.chosen(index)
     }
 

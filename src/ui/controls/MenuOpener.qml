@@ -2,7 +2,7 @@ import QtQuick
 import Velmora
 
 /// The part of a button that opens a menu: on a press, on Space, Return or an arrow; a drag from
-/// the press to a line chooses that line.
+/// the press to a line chooses that line. Without entries it looks disabled and opens nothing.
 Item {
     id: opener
 
@@ -10,16 +10,22 @@ Item {
     property string text
     property bool dragged: false
     readonly property bool hovered: hover.hovered
+    readonly property bool filled: menu.entries.length > 0
+
+    function open() {
+        if (filled)
+            menu.open();
+    }
 
     activeFocusOnTab: true
-    opacity: enabled ? 1 : 0.45
+    opacity: enabled && filled ? 1 : 0.45
     Accessible.focusable: true
-    Accessible.onPressAction: menu.open()
-    Keys.onSpacePressed: menu.open()
-    Keys.onReturnPressed: menu.open()
-    Keys.onEnterPressed: menu.open()
-    Keys.onDownPressed: menu.open()
-    Keys.onUpPressed: menu.open()
+    Accessible.onPressAction: open()
+    Keys.onSpacePressed: open()
+    Keys.onReturnPressed: open()
+    Keys.onEnterPressed: open()
+    Keys.onDownPressed: open()
+    Keys.onUpPressed: open()
 
     HoverHandler { id: hover }
 
@@ -33,7 +39,7 @@ Item {
         }
         onActiveChanged: {
             if (active)
-                opener.menu.open();
+                opener.open();
             else if (opener.dragged && opener.menu.highlighted >= 0)
                 opener.menu.pick(opener.menu.highlighted);
             opener.dragged = false;

@@ -8,6 +8,8 @@ Item {
 
     required property var modelData
     required property int index
+    /// How far the line reaches in its menu, which is as wide as the widest.
+    property real fullWidth: width
     property bool highlighted: false
     property bool marked: false
     property bool marksColumn: false
@@ -34,23 +36,34 @@ Item {
 
     HorizontalDivider {
         visible: row.separator
-        width: parent.width - 20
-        anchors.centerIn: parent
+        x: 10
+        y: (row.height - height) / 2
+        width: row.fullWidth - 20
     }
 
     Rectangle {
-        anchors.fill: parent
+        width: row.fullWidth
+        height: row.height
         radius: 5
-        color: Theme.accent
-        visible: row.highlighted
+        color: row.highlighted ? Theme.accent : "transparent"
+
+        HoverHandler {
+            enabled: row.selectable
+            onHoveredChanged: if (hovered) row.pointed()
+        }
+        TapHandler {
+            enabled: row.selectable
+            gesturePolicy: TapHandler.WithinBounds
+            onTapped: row.picked()
+        }
     }
 
     RowLayout {
         id: line
         visible: !row.separator
-        anchors.fill: parent
-        anchors.leftMargin: 8
-        anchors.rightMargin: 16
+        x: 8
+        width: row.fullWidth - 24
+        height: row.height
         spacing: 6
 
         SymbolIcon {
@@ -76,15 +89,5 @@ Item {
             wrapMode: Text.NoWrap
             Accessible.ignored: true
         }
-    }
-
-    HoverHandler {
-        enabled: row.selectable
-        onHoveredChanged: if (hovered) row.pointed()
-    }
-    TapHandler {
-        enabled: row.selectable
-        gesturePolicy: TapHandler.WithinBounds
-        onTapped: row.picked()
     }
 }

@@ -3,8 +3,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Velmora
 
-/// Several lines of plain text to type in. It scrolls, and Tab leaves it. Text that is added from
-/// outside keeps the caret and what can be undone; another subject's text begins anew.
+/// Several lines of plain text to type in. It scrolls, and Tab leaves it. Text that is added at the
+/// end from outside takes the caret along and can be undone; another subject's text begins anew.
 FocusScope {
     id: editor
 
@@ -16,23 +16,26 @@ FocusScope {
 
     signal edited(string text)
 
-    implicitWidth: 240
-    implicitHeight: 140
-    opacity: enabled ? 1 : 0.55
-    onTextChanged: {
-        following = true;
-        if (area.length > 0 && text.startsWith(area.text))
-            area.append(text.slice(area.length));
-        else
-            area.replace(text);
-        following = false;
-    }
-    onSubjectChanged: {
+    function begin() {
         following = true;
         area.clear();
         area.replace(text);
         following = false;
     }
+
+    implicitWidth: 240
+    implicitHeight: 140
+    opacity: enabled ? 1 : 0.55
+    onTextChanged: {
+        following = true;
+        if (text.startsWith(area.text))
+            area.append(text.slice(area.length));
+        else
+            area.replace(text);
+        following = false;
+    }
+    onSubjectChanged: begin()
+    Component.onCompleted: begin()
 
     Rectangle {
         anchors.fill: parent
@@ -82,10 +85,16 @@ FocusScope {
             font.pixelSize: Theme.body
             Accessible.name: editor.accessibleName
             Accessible.multiLine: true
+            Keys.onMenuPressed: menu.openAtCaret(cursorRectangle)
             Keys.priority: Keys.BeforeItem
             Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
             Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
             onTextChanged: if (!editor.following) editor.edited(area.text)
+
+            TextMenu {
+                id: menu
+                field: area
+            }
         }
     }
 }

@@ -24,7 +24,7 @@ TextEntry {
             valueEdited(NumberText.value(text));
         show();
     }
-    onActiveFocusChanged: if (activeFocus) selectAll()
+    onActiveFocusChanged: if (activeFocus && focusReason !== Qt.PopupFocusReason) selectAll()
     onAccepted: selectAll()
     Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape
                                                          && text !== NumberText.shown(value)

@@ -1,6 +1,5 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Layouts
 import QtQuick.Templates as T
 import Velmora
 
@@ -25,6 +24,13 @@ T.Popup {
             next += delta;
         if (next >= 0 && next < rows.count)
             highlighted = next;
+        showHighlighted();
+    }
+    function showHighlighted() {
+        const row = rows.itemAt(highlighted) as MenuRow;
+        if (row)
+            flick.contentY = Math.max(row.y + row.height - flick.height,
+                                      Math.min(row.y, flick.contentY));
     }
     function pick(index: int) {
         close();
@@ -33,7 +39,8 @@ T.Popup {
     }
     function track(scene: point) {
         const place = column.mapFromItem(null, scene.x, scene.y);
-        const row = column.childAt(place.x, place.y) as MenuRow;
+        const inside = place.x >= 0 && place.x < flick.width;
+        const row = inside ? column.childAt(0, place.y) as MenuRow : null;
         highlighted = row !== null && row.selectable ? row.index : -1;
     }
 
@@ -50,7 +57,10 @@ T.Popup {
         focusedBefore = parent.Window.activeFocusItem;
     }
     onClosed: focusedBefore?.forceActiveFocus(Qt.PopupFocusReason)
-    onOpened: flick.forceActiveFocus(Qt.PopupFocusReason)
+    onOpened: {
+        flick.forceActiveFocus(Qt.PopupFocusReason);
+        showHighlighted();
+    }
 
     background: Item {
         Rectangle {
@@ -88,17 +98,16 @@ T.Popup {
         Keys.onTabPressed: {}
         Keys.onBacktabPressed: {}
 
-        ColumnLayout {
+        // No layout: in a closed menu it would go on holding rows that are gone.
+        Column {
             id: column
-            width: flick.width
-            spacing: 0
 
             Repeater {
                 id: rows
                 model: menu.entries
 
                 MenuRow {
-                    Layout.fillWidth: true
+                    fullWidth: flick.width
                     highlighted: menu.highlighted === index
                     marked: menu.markedIndex === index
                     marksColumn: menu.marksColumn

@@ -3,8 +3,9 @@ import QtQuick
 import QtQuick.Layouts
 import Velmora
 
-/// The panel of a sheet: its title, what it holds, and its buttons at the foot. Return accepts and
-/// the cancel key cancels, wherever in the sheet the keyboard is.
+/// The panel of a sheet: its title, what it holds, and its buttons at the foot. What it holds
+/// scrolls where the window is too low. Return presses the button that has the keyboard and accepts
+/// anywhere else in the sheet; the cancel key cancels.
 FocusScope {
     id: sheet
 
@@ -25,6 +26,7 @@ FocusScope {
         return plain;
     }
 
+    height: Math.min(implicitHeight, Window.height)
     implicitWidth: defaultWidth
     implicitHeight: all.implicitHeight + 2 * Theme.sheetPadding
     focus: true
@@ -58,11 +60,26 @@ FocusScope {
             font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading
         }
-        ColumnLayout {
-            id: column
+        ScrollArea {
+            id: area
             Layout.fillWidth: true
+            Layout.fillHeight: true
             Layout.topMargin: sheet.spacing
-            spacing: sheet.spacing
+            contentHeight: column.implicitHeight
+            accessibleName: sheet.title
+            revealed: held.activeFocus ? Window.activeFocusItem : null
+
+            FocusScope {
+                id: held
+                width: area.width
+                height: column.implicitHeight
+
+                ColumnLayout {
+                    id: column
+                    width: held.width
+                    spacing: sheet.spacing
+                }
+            }
         }
         RowLayout {
             id: buttonRow

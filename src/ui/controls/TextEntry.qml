@@ -29,6 +29,12 @@ T.TextField {
     opacity: enabled ? 1 : 0.45
     Accessible.name: accessibleName
     onTextEdited: field.edited(field.text)
+    Keys.onMenuPressed: menu.openAtCaret(cursorRectangle)
+
+    TextMenu {
+        id: menu
+        field: field
+    }
 
     BodyText {
         x: field.leftPadding

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Templates as T
 import Velmora
 
 /// The last step before a run: what will be sent, how fast, and under which name.
@@ -31,15 +30,12 @@ SheetFrame {
             radius: 12
             color: Theme.quaternary
 
-            Flickable {
+            ScrollArea {
                 anchors.fill: parent
-                anchors.margins: 12
-                anchors.rightMargin: 1
+                inset: 12
+                cornerRadius: parent.radius
                 contentHeight: example.implicitHeight
-                interactive: contentHeight > height
-                boundsBehavior: Flickable.StopAtBounds
-                clip: interactive
-                T.ScrollBar.vertical: SlimScrollBar {}
+                accessibleName: sheet.model.exampleCaption
 
                 SelectableText {
                     id: example
@@ -81,6 +77,7 @@ SheetFrame {
         TextEntry {
             Layout.preferredWidth: 240
             accessibleName: "Run name"
+            maximumLength: sheet.model.longestRunName
             text: sheet.model.runName
             onEdited: text => sheet.model.setRunName(text)
         }

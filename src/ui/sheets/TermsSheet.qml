@@ -59,6 +59,7 @@ SheetFrame {
     PushButton {
         text: "Read the full terms of use"
         kind: PushButton.Link
+        Accessible.role: Accessible.Link
         onClicked: sheet.firstRun.openTerms()
     }
 
