@@ -181,7 +181,7 @@ TEST_F(WindowTest, MenusAndShortcutsDoTheirWork) {
 }
 
 // Catches an insert or the first words of a list that cannot be undone or that can, and an undo
-// that brings another list's words.
+// that brings another list's words; a menu of nothing that takes the keyboard.
 TEST_F(WindowTest, MessageUndoesWhatWasDoneToItAlone) {
     withFriends().setCurrentTemplate(u"Hello"_s);
     const QString more = u"Hello again"_s;
