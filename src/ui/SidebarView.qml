@@ -46,6 +46,7 @@ Rectangle {
         Component.onCompleted: complete = true
         Accessible.role: Accessible.List
         Accessible.name: "Lists"
+        Accessible.description: enabled ? "" : Theme.unavailable
         T.ScrollBar.vertical: SlimScrollBar {}
         FocusRing {
             anchors.margins: 6

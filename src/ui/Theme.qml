@@ -79,4 +79,7 @@ QtObject {
     readonly property int quick: SystemAppearance.animated ? 90 : 0
     readonly property int sheetSlide: SystemAppearance.animated ? 220 : 0
     readonly property int helpDelay: 900
+
+    /// What a screen reader hears of a control that is off, a state that the toolkit keeps to itself.
+    readonly property string unavailable: "Unavailable"
 }

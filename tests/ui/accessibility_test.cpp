@@ -30,9 +30,10 @@ class Accessibility : public AppHome {
 // it holds, and an order that is not that of reading.
 TEST_F(Accessibility, TheWindowIsSpokenFromTopToBottom) {
     const QStringList all = show().spoken();
+    const qsizetype people = all.indexOf(u"CheckBox, Select Joanne, unchecked"_s) - 1;
     const qsizetype composer = all.indexOf(u"Heading, Message"_s);
-    EXPECT_EQ(lines(all.first(all.indexOf(u"ListItem, Joanne, not selected"_s))), R"(
-Window, Friends
+    EXPECT_EQ(lines(all.first(people)), R"(
+Window, Friends | Friends
 MenuBar, 
 ButtonMenu, Velmora
 ButtonMenu, File
@@ -47,7 +48,7 @@ ListItem, Friends, 3, selected
 Slider, Sidebar width, value 230
 Heading, Friends
 StaticText, 1 of 3 selected
-Grouping, Show
+Grouping, Show | All. Show everyone, or only the people you checked
 RadioButton, All, checked
 RadioButton, Selected, unchecked
 EditableText, Search people
@@ -61,7 +62,7 @@ StaticText, Hi Ann
 Button, Add note
 StaticText, (212) 555-0101
 StaticText, iMessage (212) 555-9999
-ListItem, Bob Stone, not selected
+ListItem, Bob Stone, not selected, New thread. Your iPhone uses their preferred line, or your default line.
 CheckBox, Select Bob Stone, unchecked
 StaticText, Bob Stone
 StaticText, New thread. Your iPhone uses their preferred line, or your default line.
@@ -75,7 +76,7 @@ EditableText, Message, value Hi {first_name}{custom_note}
 ButtonMenu, Insert
 StaticText, Insert adds a first name, a note, or another version.
 Heading, Send from
-ButtonMenu, (212) 555-9999
+ButtonMenu, (212) 555-9999 | The number your texts come from
 Button, Send to 1…)");
 }
 
@@ -85,11 +86,11 @@ TEST_F(Accessibility, SettingsAndSheetsAreSpokenToo) {
     window.settle();
     QWindow* settings = WindowDriver::windowTitled(u"Settings"_s);
     EXPECT_EQ(lines(window.spoken({}, settings)), R"(
-Window, Settings
+Window, Settings | Settings
 Grouping, Sending number
 Heading, Sending number
 StaticText, Send from
-ComboBox, Send from
+ComboBox, Send from | (212) 555-9999  (1 messages)
 StaticText, Your iPhone picks the line for SMS. Velmora checks every send against this number and pauses if one goes out on the other line.
 Grouping, Pacing
 Heading, Pacing
@@ -104,7 +105,7 @@ SpinBox, From hour, value 10
 SpinBox, From minute, value 0
 StaticText, and
 Grouping, Until
-SpinBox, Until hour, value 21
+SpinBox, Until hour, value 20
 SpinBox, Until minute, value 0
 SpinBox, Pause after 3 failures in a row, value 3
 StaticText, Texts go out one at a time, like you'd send them yourself, and only during the hours you set. A run stops on its own if something looks wrong.
@@ -112,7 +113,7 @@ Grouping, Test message
 Heading, Test message
 StaticText, Number
 EditableText, Number
-Button, Send Test, disabled
+Button, Send Test | Unavailable
 StaticText, Sends one text and reports which line it went out on.)");
     settings->close();
     model->confirmingRun = true;
@@ -133,15 +134,45 @@ Button, Cancel
 Button, Start Sending)");
 }
 
-// Catches a run whose progress, locks and log nobody hears of.
-TEST_F(Accessibility, ARunIsSpoken) {
+// Catches a run whose progress and locks nobody hears of, and an alert that comes in silence.
+TEST_F(Accessibility, ARunAndItsAlertsAreSpoken) {
+    home.writeMessages(messagesOnLine(myOtherLine));
     WindowDriver& window = show();
     model->requestRun();
     model->confirmRun();
-    window.until(
-        [&] { return model->runner().nextIn.value().has_value() || !model->runner().isActive(); });
-    for (const QString& each : window.spoken())
-        std::puts(qPrintable(each));
+    ASSERT_TRUE(window.until([&] { return window.shows(u"Resume"_s); }));
+    const QStringList spoken = window.spoken();
+    const qsizetype composer = spoken.indexOf(u"Heading, Message"_s);
+    EXPECT_TRUE(spoken.contains(u"List, Lists | Unavailable"_s));
+    EXPECT_EQ(lines(spoken.sliced(composer)), R"(
+Heading, Message
+EditableText, Message, value Hi {first_name}{custom_note} | Unavailable
+ButtonMenu, Insert | Unavailable
+StaticText, Insert adds a first name, a note, or another version.
+Heading, Send from
+ButtonMenu, (212) 555-9999 | Unavailable
+ProgressBar, Progress | 1 of 1
+StaticText, 1 of 1 · Ann Lee got it from (212) 555-8888, not (212) 555-9999. Fix the line on your iPhone, then resume.
+Button, Stop
+Button, Resume
+Heading, Activity
+List, Activity
+ListItem, Ann Lee, sent · iMessage, 11:00:04
+StaticText, Ann Lee
+StaticText, sent · iMessage
+StaticText, 11:00:04)");
+
+    static QStringList announced;
+    announced.clear();
+    const auto before = QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+        if (event->type() == QAccessible::Alert)
+            announced.append(event->accessibleInterface()->text(QAccessible::Description));
+    });
+    model->alert = u"Something is wrong."_s;
+    EXPECT_TRUE(window.until([&] { return window.shows(u"OK"_s) && !announced.isEmpty(); }));
+    QAccessible::installUpdateHandler(before);
+    EXPECT_EQ(announced, QStringList(u"Something is wrong."_s));
+    EXPECT_EQ(window.complaints().join(u'\n').toStdString(), "");
 }
 
 }  // namespace

@@ -45,6 +45,12 @@ QAccessibleInterface* findBelow(QAccessibleInterface* root, const QString& name,
     return nullptr;
 }
 
+// A frame puts everything where it belongs.
+void layOut(QWindow* window) {
+    QEvent frame(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(window, &frame);
+}
+
 QString speech(QAccessibleInterface* element) {
     const QAccessible::State state = element->state();
     QStringList words{QVariant::fromValue(element->role()).toString(),
@@ -58,9 +64,9 @@ QString speech(QAccessibleInterface* element) {
         words.append(QLatin1String(state.checked ? "checked" : "unchecked"));
     if (state.selected)
         words.append(QLatin1String("selected"));
-    if (state.disabled)
-        words.append(QLatin1String("disabled"));
-    return words.join(QLatin1String(", "));
+    const QString description = element->text(QAccessible::Description);
+    return words.join(QLatin1String(", ")) +
+           (description.isEmpty() ? QString() : QLatin1String(" | ") + description);
 }
 
 void listen(QAccessibleInterface* element, QStringList& spoken) {
@@ -117,7 +123,9 @@ bool WindowDriver::shows(const QString& name, QWindow* in) {
 }
 
 QStringList WindowDriver::spoken(const QString& name, QWindow* in) {
-    auto* root = QAccessible::queryAccessibleInterface(in == nullptr ? &window() : in);
+    QWindow* there = in == nullptr ? &window() : in;
+    layOut(there);
+    auto* root = QAccessible::queryAccessibleInterface(there);
     QAccessibleInterface* from = name.isEmpty() ? root : findBelow(root, name, QAccessible::NoRole);
     QStringList all;
     if (from != nullptr)
@@ -127,9 +135,7 @@ QStringList WindowDriver::spoken(const QString& name, QWindow* in) {
 
 QRect WindowDriver::area(const QString& name, QAccessible::Role role, QWindow* in) {
     QWindow* there = in == nullptr ? &window() : in;
-    // A frame puts everything where it belongs.
-    QEvent frame(QEvent::UpdateRequest);
-    QCoreApplication::sendEvent(there, &frame);
+    layOut(there);
     QAccessibleInterface* found = nullptr;
     until([&] {
         found = findBelow(QAccessible::queryAccessibleInterface(there), name, role);

@@ -25,6 +25,7 @@ FocusScope {
     Accessible.role: Accessible.AlertMessage
     Accessible.name: title
     Accessible.description: message
+    Component.onCompleted: Announcer.alert(alert)
     Keys.onReturnPressed: event => event.accepted = takeReturn(event)
     Keys.onEnterPressed: event => event.accepted = takeReturn(event)
     Keys.onPressed: event => {

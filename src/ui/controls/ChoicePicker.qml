@@ -21,7 +21,7 @@ MenuOpener {
     menu: popup
     Accessible.role: Accessible.ComboBox
     Accessible.name: accessibleName
-    Accessible.description: text
+    Accessible.description: enabled ? text : text + ". " + Theme.unavailable
 
     FontMetrics {
         id: face

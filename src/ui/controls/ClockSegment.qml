@@ -23,6 +23,7 @@ BodyText {
     wrapMode: Text.NoWrap
     activeFocusOnTab: true
     Accessible.role: Accessible.SpinBox
+    Accessible.description: enabled ? "" : Theme.unavailable
     Accessible.name: accessibleName
     Accessible.focusable: true
     Accessible.onIncreaseAction: segment.stepped(1)

@@ -84,6 +84,7 @@ FocusScope {
             font.family: Theme.fontFamily
             font.pixelSize: Theme.body
             Accessible.name: editor.accessibleName
+            Accessible.description: enabled ? "" : Theme.unavailable
             Accessible.multiLine: true
             Keys.onMenuPressed: menu.openAtCaret(cursorRectangle)
             Keys.priority: Keys.BeforeItem

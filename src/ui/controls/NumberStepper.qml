@@ -22,6 +22,7 @@ Item {
     activeFocusOnTab: true
     opacity: enabled ? 1 : 0.45
     Accessible.role: Accessible.SpinBox
+    Accessible.description: enabled ? "" : Theme.unavailable
     Accessible.name: text
     Accessible.onIncreaseAction: if (stepper.value < stepper.to) stepper.changed(stepper.value + 1)
     Accessible.onDecreaseAction: if (stepper.value > stepper.from) stepper.changed(stepper.value - 1)

@@ -36,7 +36,7 @@ T.AbstractButton {
     hoverEnabled: true
     opacity: enabled || prominent ? 1 : 0.45
     Accessible.name: text
-    Accessible.description: help
+    Accessible.description: enabled ? help : Theme.unavailable
     Keys.onReturnPressed: event => event.isAutoRepeat ? undefined : clicked()
     Keys.onEnterPressed: event => event.isAutoRepeat ? undefined : clicked()
 

@@ -15,6 +15,7 @@ Item {
     implicitHeight: 6
     Accessible.role: Accessible.ProgressBar
     Accessible.name: accessibleName
+    Accessible.description: value + " of " + total
 
     Rectangle {
         anchors.fill: parent

@@ -20,7 +20,8 @@ Item {
     opacity: enabled ? 1 : 0.45
     Accessible.role: Accessible.Grouping
     Accessible.name: accessibleName
-    Accessible.description: options[currentIndex] + ". " + help
+    Accessible.description: options[currentIndex] + ". "
+                            + (enabled ? help : Theme.unavailable)
     Keys.onLeftPressed: if (currentIndex > 0) chosen(currentIndex - 1)
     Keys.onRightPressed: if (currentIndex < options.length - 1) chosen(currentIndex + 1)
     Keys.onSpacePressed: event => {

@@ -28,6 +28,7 @@ T.TextField {
     font.pixelSize: small ? Theme.caption : Theme.body
     opacity: enabled ? 1 : 0.45
     Accessible.name: accessibleName
+    Accessible.description: enabled ? "" : Theme.unavailable
     onTextEdited: field.edited(field.text)
     Keys.onMenuPressed: menu.openAtCaret(cursorRectangle)
 

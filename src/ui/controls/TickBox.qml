@@ -17,6 +17,7 @@ Item {
     opacity: enabled ? 1 : 0.45
     Accessible.role: Accessible.CheckBox
     Accessible.name: accessibleName
+    Accessible.description: enabled ? "" : Theme.unavailable
     Accessible.checkable: true
     Accessible.checked: checked
     Accessible.onPressAction: box.toggled(!box.checked)
