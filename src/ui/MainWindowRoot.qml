@@ -51,27 +51,38 @@ ApplicationWindow {
         titleBottom: root.barHeight + content.headerHeight
     }
 
-    SettingsWindow {
-        id: settings
-        settings: root.presentation.settings
+    // The other windows are made when they are first wanted.
+    component SecondWindow: Loader {
+        function present() {
+            active = true;
+            const window = item as Window;
+            window.show();
+            window.raise();
+            window.requestActivate();
+        }
+
+        active: false
     }
-    AboutWindow {
+    SecondWindow {
+        id: settings
+        sourceComponent: SettingsWindow {
+            settings: root.presentation.settings
+        }
+    }
+    SecondWindow {
         id: about
+        sourceComponent: AboutWindow {}
     }
     Connections {
         target: root.presentation.window
         function onSettingsRequested() {
-            settings.show();
-            settings.raise();
-            settings.requestActivate();
+            settings.present();
         }
     }
     Connections {
         target: root.presentation.menus
         function onAboutRequested() {
-            about.show();
-            about.raise();
-            about.requestActivate();
+            about.present();
         }
     }
 }

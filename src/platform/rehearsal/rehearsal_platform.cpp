@@ -19,7 +19,7 @@ namespace {
 // again, and SQLite counts each allocation under a lock: both take longer than the reading.
 void makeOpeningCheap() {
 #ifdef __GLIBC__
-    constexpr int kept = 32 * 1024 * 1024;
+    constexpr int kept = 4 * 1024 * 1024;
     mallopt(M_TRIM_THRESHOLD, kept);
     mallopt(M_MMAP_THRESHOLD, kept);
     mallopt(M_TOP_PAD, 1024 * 1024);

@@ -13,6 +13,8 @@ T.Popup {
     property bool marksColumn: false
     property int highlighted: -1
     property Item focusedBefore: null
+    /// The rows are made when the menu is first wanted.
+    property bool made: false
     readonly property real rowsTop: topPadding
 
     signal chosen(int index)
@@ -53,6 +55,7 @@ T.Popup {
     implicitHeight: column.implicitHeight + topPadding + bottomPadding
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     onAboutToShow: {
+        made = true;
         highlighted = markedIndex;
         focusedBefore = parent.Window.activeFocusItem;
     }
@@ -104,7 +107,7 @@ T.Popup {
 
             Repeater {
                 id: rows
-                model: menu.entries
+                model: menu.made ? menu.entries : []
 
                 MenuRow {
                     fullWidth: flick.width
