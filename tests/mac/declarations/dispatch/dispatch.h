@@ -1,6 +1,4 @@
-// Just the declarations of the platform's queues that src/platform/mac uses, written from its
-// public documentation.
-
+// Just the queues that src/platform/mac uses, written from the platform's public documentation.
 #pragma once
 
 #import <Foundation/Foundation.h>
