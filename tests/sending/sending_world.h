@@ -82,13 +82,17 @@ class SendingWorld {
         settle();
     }
 
+    /// Lets the run go on until it waits for the user, for this reason.
     void expectPaused(const QString& reason) {
+        settle();
         EXPECT_EQ(runner->state.value(), State::paused);
         EXPECT_EQ(runner->message.value(), reason);
         EXPECT_FALSE(runner->nextIn.value());
     }
 
+    /// Lets the run go on until it has ended, with this summary.
     void expectDone(const QString& summary) {
+        settle();
         EXPECT_EQ(runner->state.value(), State::done);
         EXPECT_EQ(runner->message.value(), summary);
         EXPECT_FALSE(runner->current.value());
