@@ -5,17 +5,14 @@
 using namespace Qt::StringLiterals;
 using namespace velmora::TemplateRenderer;
 
-// A wrong idea of what separates would send a person two versions, or a version cut in half.
-TEST(SplitVersions, OnlyThreeHyphensBetweenSpacesAndTabsSeparate) {
+// A wrong idea of what separates would send a person two versions, or a version cut in half, and an
+// empty version an empty text.
+TEST(SplitVersions, SeparateAtThreeHyphensAreTrimmedAndVanishWhenEmpty) {
     EXPECT_EQ(splitVersions(u"A\n---\nB"_s), (QStringList{u"A"_s, u"B"_s}));
     EXPECT_EQ(splitVersions(u"A\n\t---\u00a0 \nB"_s), (QStringList{u"A"_s, u"B"_s}));
     for (const QString& line :
          {u"----"_s, u"- - -"_s, u"--- x"_s, u"---\r"_s, u"---\u2028"_s, u"\u200b---"_s})
         EXPECT_EQ(splitVersions(u"A\n"_s + line + u"\nB"_s).size(), 1) << line.toStdString();
-}
-
-// An empty version would send an empty text.
-TEST(SplitVersions, EmptyVersionsVanishAndOthersAreTrimmed) {
     for (const QString& text : {u""_s, u" \t\r\n\u0085\u2028\u3000"_s, u"---"_s, u"---\n---\n"_s})
         EXPECT_TRUE(splitVersions(text).isEmpty());
     EXPECT_EQ(splitVersions(u"---\n\n A\n\n b \r\n---\n---\nB\n---"_s),

@@ -54,16 +54,12 @@ TEST(SendingHours, BothEndsAreInsideAndMidnightMayBe) {
         for (const QString& word : words.sliced(2)) {
             const QDateTime time(QDate(2025, 7, 1), QTime::fromString(word.right(8)));
             EXPECT_EQ(isOutsideSendingHours(config, momentOf(time)), word.startsWith(u'!'))
-                << qPrintable(text + u" at " + word);
+                << qPrintable(text + u" at "_s + word);
         }
     }
-    const std::vector<std::pair<QString, int>> times = {{u"25:99"_s, 1599},
-                                                        {u"7:5"_s, 425},
-                                                        {u":10::x:30:"_s, 630},
-                                                        {u"+1:-5"_s, 55},
-                                                        {u"1:2:99999999999999999999"_s, 62}};
-    for (const auto& [text, minutes] : times)
-        EXPECT_EQ(minutesOfDay(text), minutes);
+    for (const QString& text : {u"25:99 1599"_s, u"7:5 425"_s, u":10::x:30: 630"_s, u"+1:-5 55"_s,
+                                u"1:2:99999999999999999999 62"_s})
+        EXPECT_EQ(minutesOfDay(text.section(u' ', 0, 0)), text.section(u' ', 1).toInt());
     for (const QString& text : {u""_s, u"10"_s, u"1:2:3"_s, u"10: 30"_s, u"+:1"_s, u"--1:1"_s,
                                 u"\u0661\u0660:00"_s, u"1,000:0"_s})
         EXPECT_EQ(minutesOfDay(text), std::nullopt) << text.toStdString();
@@ -71,24 +67,16 @@ TEST(SendingHours, BothEndsAreInsideAndMidnightMayBe) {
 
 // Another key or default would change the settings of everyone who updates.
 TEST(ConfigJSON, HasItsKeysAndDefaultsInCodePointOrder) {
-    EXPECT_EQ(encodeConfig(AppConfig()).value().toStdString(), R"({
-  "delayMax": 60.0,
-  "delayMin": 30.0,
-  "maxFailures": 3,
-  "maxPerRun": 60,
-  "notes": {},
-  "picks": {},
-  "quietEnd": "20:00",
-  "quietStart": "10:00",
-  "senderNumber": "",
-  "templates": {},
-  "termsAccepted": "",
-  "verifyWait": 20.0
-})");
+    const QByteArray json = encodeConfig(AppConfig()).value();
+    EXPECT_EQ(json.simplified(),
+              R"({ "delayMax": 60.0, "delayMin": 30.0, "maxFailures": 3, "maxPerRun": 60, )"
+              R"("notes": {}, "picks": {}, "quietEnd": "20:00", "quietStart": "10:00", )"
+              R"("senderNumber": "", "templates": {}, "termsAccepted": "", "verifyWait": 20.0 })");
+    EXPECT_EQ(json.count("\n  \""), 12) << "a line for each key";
     AppConfig ordered;
     ordered.templates = {{u"\U0001f600"_s, {}}, {u"\uff5e"_s, {}}};
-    const QByteArray json = encodeConfig(ordered).value();
-    EXPECT_LT(json.indexOf("\uff5e"), json.indexOf("\U0001f600"));
+    const QByteArray text = encodeConfig(ordered).value();
+    EXPECT_LT(text.indexOf("\uff5e"), text.indexOf("\U0001f600"));
     AppConfig endless;
     endless.delayMax = std::numeric_limits<double>::infinity();
     EXPECT_EQ(encodeConfig(endless), std::nullopt);

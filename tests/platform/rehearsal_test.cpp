@@ -22,7 +22,13 @@ using namespace Qt::StringLiterals;
 namespace velmora {
 namespace {
 
-class AddressBookTest : public testing::Test {
+class RehearsalTest : public testing::Test {
+  protected:
+    VirtualSurroundings world;
+    RehearsalHome home;
+};
+
+class AddressBookTest : public RehearsalTest {
   protected:
     std::vector<ContactRecord> everybody() {
         std::vector<ContactRecord> people;
@@ -32,7 +38,6 @@ class AddressBookTest : public testing::Test {
         return people;
     }
 
-    RehearsalHome home;
     AddressBook book{home.path()};
 };
 
@@ -90,7 +95,7 @@ TEST_F(AddressBookTest, DeniedAccessRefusesEveryReadUntilItIsGranted) {
 const QString ann = u"+12125550123"_s;
 const QString line = u"+12125550100"_s;
 
-class MessagesApplicationTest : public testing::Test {
+class MessagesApplicationTest : public RehearsalTest {
   protected:
     void send(Service service = Service::iMessage) {
         sentAt = world.clock.uptime();
@@ -113,10 +118,7 @@ class MessagesApplicationTest : public testing::Test {
         return QString(found->sent ? u"s"_s : QString()) + (found->delivered ? u"d"_s : QString());
     }
 
-    VirtualSurroundings world;
-    RehearsalHome home;
-    std::unique_ptr<MessagesApplication> messages =
-        std::make_unique<MessagesApplication>(world.clock, home.path());
+    std::optional<MessagesApplication> messages{std::in_place, world.clock, home.path()};
     double sentAt = 0;
     qint64 since = 0;
 };
@@ -185,15 +187,13 @@ TEST_F(MessagesApplicationTest, ADeletedHistoryIsMadeAnewAndAnEndEndsAll) {
     EXPECT_EQ(flagsAfter(60), u""_s);
 }
 
-class SampleHomeTest : public testing::Test {
+class SampleHomeTest : public RehearsalTest {
   protected:
     SampleHomeTest() { EXPECT_TRUE(prepareSampleHome(path, world.clock.now()).has_value()); }
 
     MessagesDB history() { return MessagesDB::open(messagesHistoryPath(path)).value(); }
 
-    VirtualSurroundings world;
-    RehearsalHome folder;
-    QString path = folder.path() + u"/sample"_s;
+    QString path = home.path() + u"/sample"_s;
     Platform platform = makeRehearsalPlatform(world.clock, path);
     ContactsService contacts{*platform.contacts};
 };

@@ -46,24 +46,22 @@ TEST(MessageSender, TellsWhyATextCouldNotBeHandedOver) {
     }
 }
 
-QString generatedText(QRandomGenerator& random) {
-    static const QStringList pieces = {
-        u"\""_s,         u"\\"_s,     u"\\\""_s,     u"\n"_s,     u"\r\n"_s,    u"\t"_s,
-        u"\U0001F389"_s, u"\u00e9"_s, u"end tell"_s, u"\" to "_s, u"send \""_s, u"tell "_s,
-        u"& return"_s,   u"-- "_s,    u"(*"_s,       u"|"_s,      u"%1"_s,      u"\u2028"_s,
-    };
-    QString text;
-    for (quint32 left = random.bounded(12U); left > 0; --left)
-        text += pieces.at(random.bounded(static_cast<int>(pieces.size())));
-    return text;
-}
-
 // Catches a text that breaks out of its quotation marks or arrives as another one.
 TEST(MessageSender, EveryTextIsReadBackAsItself) {
+    const QStringList pieces = {
+        u"\""_s,         u"\\"_s,     u"\\\""_s,     u"\n"_s,     u"\r\n"_s,    u"\t"_s,
+        u"\U0001F389"_s, u"\u00e9"_s, u"end tell"_s, u"\" to "_s, u"send \""_s, u"tell "_s,
+        u"& return"_s,   u"-- "_s,    u"(*"_s,       u"|"_s,      u"%1"_s,      u"\u2028"_s};
     QRandomGenerator random(20250314);
+    const auto generated = [&] {
+        QString text;
+        for (int left = random.bounded(12); left > 0; --left)
+            text += pieces[random.bounded(pieces.size())];
+        return text;
+    };
     for (int i = 0; i < 4000; ++i) {
-        const QString text = generatedText(random);
-        const QString phone = generatedText(random);
+        const QString text = generated();
+        const QString phone = generated();
         const Service service = i % 2 == 0 ? Service::iMessage : Service::sms;
         const auto parsed = parseMessageScript(messageScript(phone, service, text));
         ASSERT_TRUE(parsed) << qPrintable(text);
@@ -76,27 +74,23 @@ TEST(MessageSender, EveryTextIsReadBackAsItself) {
 // Catches a script that a Mac would refuse, or would take for something else, and that runs here.
 TEST(ScriptParser, RefusesWhatIsNotExactlyTheScript) {
     const QString script = messageScript(u"+12125550123"_s, Service::iMessage, u"Hi"_s);
-    struct Case {
-        QString part;
-        QString replacement;
-        int line;
-    };
-    for (const auto& [part, replacement, line] : {
-             Case{script, u""_s, 1},
-             Case{u"\"Messages\""_s, u"\"Mail\""_s, 1},
-             Case{u"    set targetAccount to 1st account whose service type = iMessage\n"_s, {}, 2},
-             Case{u"iMessage"_s, u"\"iMessage\""_s, 2},
-             Case{u"iMessage"_s, u"imessage"_s, 2},
-             Case{u"    set targetP"_s, u"\tset targetP"_s, 3},
-             Case{u"\"+12125550123\""_s, u"+12125550123"_s, 3},
-             Case{u"    send \"Hi\" to targetParticipant\n"_s, {}, 4},
-             Case{u"\"Hi\""_s, u"\"Hi"_s, 4},
-             Case{u"\"Hi\""_s, u"\"\\n\""_s, 4},
-             Case{u"\"Hi\""_s, u"\"Hi\" & \"there\""_s, 4},
-             Case{u"\"Hi\""_s, u"\"\" to targetParticipant\ndo shell script \"ls\""_s, 5},
-             Case{u"Hi"_s, u"a\nb\" x"_s, 5},
-             Case{u"end tell"_s, u"end tell\n"_s, 5},
-             Case{u"end tell"_s, u"end tell\ndo shell script \"ls\""_s, 5},
+    using Cases = std::vector<std::tuple<QString, QString, int>>;
+    for (const auto& [part, replacement, line] : Cases{
+             {script, u""_s, 1},
+             {u"\"Messages\""_s, u"\"Mail\""_s, 1},
+             {u"    set targetAccount to 1st account whose service type = iMessage\n"_s, {}, 2},
+             {u"iMessage"_s, u"\"iMessage\""_s, 2},
+             {u"iMessage"_s, u"imessage"_s, 2},
+             {u"    set targetP"_s, u"\tset targetP"_s, 3},
+             {u"\"+12125550123\""_s, u"+12125550123"_s, 3},
+             {u"    send \"Hi\" to targetParticipant\n"_s, {}, 4},
+             {u"\"Hi\""_s, u"\"Hi"_s, 4},
+             {u"\"Hi\""_s, u"\"\\n\""_s, 4},
+             {u"\"Hi\""_s, u"\"Hi\" & \"there\""_s, 4},
+             {u"\"Hi\""_s, u"\"\" to targetParticipant\ndo shell script \"ls\""_s, 5},
+             {u"Hi"_s, u"a\nb\" x"_s, 5},
+             {u"end tell"_s, u"end tell\n"_s, 5},
+             {u"end tell"_s, u"end tell\ndo shell script \"ls\""_s, 5},
          }) {
         ASSERT_TRUE(script.contains(part));
         const QString source = QString(script).replace(part, replacement);

@@ -174,14 +174,11 @@ TEST_P(RunnerEndTest, NothingGoesOnWithoutTheRunner) {
 INSTANTIATE_TEST_SUITE_P(AtAnyMoment, RunnerEndTest, ::testing::Values(-1, 1, 9, 13, 200, 301));
 
 struct ChosenWords final : RandomSource {
-    explicit ChosenWords(std::vector<quint64> words) : left(std::move(words)) {}
-    [[nodiscard]] quint64 word() override {
-        const quint64 next = left.at(0);
-        left.erase(left.begin());
-        return next;
-    }
+    explicit ChosenWords(std::vector<quint64> words) : words(std::move(words)) {}
+    [[nodiscard]] quint64 word() override { return words.at(next++); }
 
-    std::vector<quint64> left;
+    std::vector<quint64> words;
+    size_t next = 0;
 };
 
 double waitBetween(double delayMin, double delayMax, RandomSource&& random = SeededRandomSource()) {

@@ -4,7 +4,7 @@
 
 #import <Foundation/Foundation.h>
 
-typedef double CGFloat;
+typedef double CGFloat, NSFontWeight;
 struct NSSize {
     CGFloat width, height;
 };
@@ -38,7 +38,6 @@ void CGContextRelease(CGContextRef context);
            completionHandler:(void (^)(NSRunningApplication *application, NSError *error))handler;
 @end
 
-typedef CGFloat NSFontWeight;
 extern const NSFontWeight NSFontWeightLight, NSFontWeightRegular;
 @interface NSImageSymbolConfiguration : NSObject
 + (instancetype)configurationWithPointSize:(CGFloat)size weight:(NSFontWeight)weight;

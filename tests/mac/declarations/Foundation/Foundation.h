@@ -80,8 +80,7 @@ extern NSString *const NSAppleScriptErrorMessage;
 - (NSAppleEventDescriptor *)executeAndReturnError:(NSDictionary<NSString *, id> **)error;
 @end
 
-typedef const void *CFTypeRef;
-typedef CFTypeRef CFPropertyListRef;
+typedef const void *CFTypeRef, *CFPropertyListRef;
 typedef const struct __attribute__((objc_bridge(NSString))) __CFString *CFStringRef;
 #define CFSTR(text) ((__bridge CFStringRef) @text)
 CFPropertyListRef CFPreferencesCopyAppValue(CFStringRef key, CFStringRef application);
