@@ -26,8 +26,6 @@ TEST(VersionIndex, IsTheKnownHashOfThePhone) {
     EXPECT_EQ(versionIndex(u"+15551234567"_s, whole), 0x5c7b129949cbd436);
     EXPECT_EQ(versionIndex(u"+15551234568"_s, whole), 0x5c7b1d9949cbe6e7);
     EXPECT_EQ(versionIndex(u""_s, whole), 0xcbf29ce484222325);
-    EXPECT_EQ(versionIndex(u"+15551234567"_s, 2), 0U);
-    EXPECT_EQ(versionIndex(u"+15551234568"_s, 2), 1U);
     EXPECT_EQ(versionIndex(u"+15551234567"_s, 3), 1U);
     EXPECT_EQ(versionIndex(u"\u00e9"_s, whole), 0xac21707b7181e01)
         << "two bytes in UTF-8, both above 127";
@@ -56,8 +54,7 @@ TEST(RenderText, PutsInNameAndNote) {
 }
 
 TEST(IsPersonalised, WhenTextsMayDiffer) {
-    EXPECT_TRUE(isPersonalised(u"{first_name}"_s));
-    EXPECT_TRUE(isPersonalised(u"{custom_note}"_s));
-    EXPECT_TRUE(isPersonalised(u"A\n---\nB"_s));
+    for (const QString& text : {u"{first_name}"_s, u"{custom_note}"_s, u"A\n---\nB"_s})
+        EXPECT_TRUE(isPersonalised(text)) << text.toStdString();
     EXPECT_FALSE(isPersonalised(u"A {name}\n---\n"_s));
 }

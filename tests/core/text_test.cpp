@@ -24,16 +24,11 @@ TEST(DisplayPhone, GroupsOnlyPlusOneAndTenCharacters) {
 
 // The same person typed in two ways would be texted twice, or a wrong number be texted at all.
 TEST(NormalizePhone, GivesEveryNumberItsOneForm) {
-    const std::vector<std::pair<QString, QString>> forms = {
-        {u"(555) 123-4567"_s, u"+15551234567"_s},
-        {u"1 555 123 4567"_s, u"+15551234567"_s},
-        {u"\u2029\u0085 +44 7700 900123\n"_s, u"+447700900123"_s},
-        {u"+12345678"_s, u"+12345678"_s},
-        {u"+123456789012345"_s, u"+123456789012345"_s},
-        {u"(+44) 7700 9001"_s, u"+14477009001"_s},
-    };
-    for (const auto& [typed, form] : forms)
-        EXPECT_EQ(normalizePhone(typed), form);
+    for (const QString& typed :
+         {u"(555) 123-4567=+15551234567"_s, u"1 555 123 4567=+15551234567"_s,
+          u"\u2029\u0085 +44 7700 900123\n=+447700900123"_s, u"+12345678=+12345678"_s,
+          u"+123456789012345=+123456789012345"_s, u"(+44) 7700 9001=+14477009001"_s})
+        EXPECT_EQ(normalizePhone(typed.section(u'=', 0, 0)), typed.section(u'=', 1));
     for (const QString& useless :
          {u""_s, u"555-1234"_s, u"2 555 123 4567"_s, u"+1234567"_s, u"+1234567890123456"_s,
           u"\u200b+44 7700 900123"_s, u"\u0665\u0665\u0665 123-4567"_s, u"123456789012"_s})

@@ -136,9 +136,8 @@ TEST_F(MessagesDBTest, LastSentIsTheNewestFromMeSinceThen) {
     const SentRecord newest = open().lastSent(annsPhone, 7).value().value_or(SentRecord());
     EXPECT_EQ(newest.service + newest.line, u"SMS+1");
     EXPECT_TRUE(newest.sent && !newest.delivered && newest.error == 0);
-    change(
-        "UPDATE message SET service = x'41', destination_caller_id = 1.5, error = 'x',"
-        "is_sent = 0.5, is_delivered = -2");
+    change(R"(UPDATE message SET service = x'41', destination_caller_id = 1.5, error = 'x',
+              is_sent = 0.5, is_delivered = -2)");
     const SentRecord odd = open().lastSent(annsPhone, 7).value().value_or(SentRecord());
     EXPECT_TRUE(odd.service.isEmpty() && odd.error == 0 && !odd.sent && odd.delivered);
     change("DROP TABLE handle");

@@ -7,7 +7,6 @@
 namespace velmora {
 namespace {
 
-using State = Runner::State;
 using Real = std::numeric_limits<double>;
 
 class RunnerTest : public ::testing::Test, protected SendingWorld {};

@@ -3,8 +3,6 @@
 namespace velmora {
 namespace {
 
-using State = Runner::State;
-
 const QString noRecord = u"No record in Messages yet. Check the thread on your phone."_s;
 const QString otherLine = u"+15550100002"_s;
 

@@ -44,8 +44,7 @@ struct CountedActivities final : ActivitySource {
 
 /// A runner with everything that it works with, at 11 in the morning. Texts leave on `line`, the
 /// chosen sending number, and are confirmed within 2 seconds, unless `messages` says otherwise.
-class SendingWorld {
-  public:
+struct SendingWorld {
     using State = Runner::State;
 
     static inline const QString line = u"+15550100001"_s;

@@ -1,5 +1,4 @@
-// Just the declarations of the platform's AppKit and Core Graphics that src/platform/mac uses,
-// written from its public documentation.
+// What src/platform/mac uses of AppKit and Core Graphics, written from their documentation.
 #pragma once
 
 #import <Foundation/Foundation.h>
@@ -58,7 +57,6 @@ enum NSCompositingOperation : NSUInteger { NSCompositingOperationSourceOver = 2 
 @property(class) NSGraphicsContext *currentContext;
 + (NSGraphicsContext *)graphicsContextWithCGContext:(CGContextRef)context flipped:(BOOL)flipped;
 @end
-
 @interface NSCursor : NSObject
 @property(class, readonly) NSCursor *arrowCursor;
 @property(readonly) NSImage *image;

@@ -1,5 +1,4 @@
-// Just the declarations of the platform's Contacts framework that src/platform/mac uses, written
-// from its public documentation.
+// What src/platform/mac uses of the Contacts framework, written from its documentation.
 #pragma once
 
 #import <Foundation/Foundation.h>
@@ -11,7 +10,6 @@ typedef NSInteger CNAuthorizationStatus;
 @end
 @interface NSString (Contacts) <CNKeyDescriptor>
 @end
-
 extern NSString *const CNContactGivenNameKey, *const CNContactFamilyNameKey;
 extern NSString *const CNContactNicknameKey, *const CNContactOrganizationNameKey;
 extern NSString *const CNContactPhoneNumbersKey, *const CNContactEmailAddressesKey;
@@ -40,7 +38,6 @@ extern NSString *const CNLabelPhoneNumberMain;
 - (instancetype)initWithKeysToFetch:(NSArray<id<CNKeyDescriptor>> *)keys;
 @property BOOL unifyResults;
 @end
-
 @interface CNContactStore : NSObject
 + (CNAuthorizationStatus)authorizationStatusForEntityType:(CNEntityType)type;
 - (void)requestAccessForEntityType:(CNEntityType)type

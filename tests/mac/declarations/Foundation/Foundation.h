@@ -1,6 +1,5 @@
-// Just the declarations of the platform's Foundation and Core Foundation that src/platform/mac
-// uses, written from its public documentation, so that a compiler without the platform can check
-// our files: a selector, type or constant that is misspelt there is not found here.
+// What src/platform/mac uses of Foundation and Core Foundation, written from their documentation: a
+// compiler without the platform checks our files, as what is misspelt there is not found here.
 #pragma once
 
 #include <stddef.h>
@@ -13,7 +12,6 @@ typedef bool BOOL;
 typedef long NSInteger;
 typedef unsigned long NSUInteger;
 typedef unsigned short unichar;
-
 struct NSRange {};
 NSRange NSMakeRange(NSUInteger location, NSUInteger length);
 
@@ -65,7 +63,6 @@ NSString *NSHomeDirectory(void);
 - (NSArray<NSURL *> *)URLsForDirectory:(NSSearchPathDirectory)directory
                              inDomains:(NSSearchPathDomainMask)domains;
 @end
-
 enum NSActivityOptions : uint64_t { NSActivityUserInitiated = 0x00FFFFFF };
 @interface NSProcessInfo : NSObject
 @property(class, readonly) NSProcessInfo *processInfo;

@@ -1,4 +1,4 @@
-// Just the queues that src/platform/mac uses, written from the platform's public documentation.
+// What src/platform/mac uses of the platform's queues, written from their documentation.
 #pragma once
 
 #import <Foundation/Foundation.h>
