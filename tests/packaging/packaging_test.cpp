@@ -21,8 +21,7 @@ const QString sourceRoot = QStringLiteral(VELMORA_SOURCE_ROOT);
 
 struct Outcome {
     int code;
-    QString output;
-    QString errors;
+    QString output, errors;
 };
 
 Outcome run(const QString& program, const QStringList& arguments) {
@@ -103,7 +102,7 @@ TEST(Package, ABundleThatLoadsFromHomebrewIsRefused) {
     }
 }
 
-// The keys and values of a property list's dictionary, a value as its text or its element's name.
+// The keys and values of a property list's dictionary, with the values that are texts.
 QMap<QString, QString> propertyList(const QString& path) {
     QFile file(sourceRoot + path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
@@ -115,11 +114,9 @@ QMap<QString, QString> propertyList(const QString& path) {
             continue;
         const QString element = xml.name().toString();
         if (element == u"key")
-            key = xml.readElementText();
+            found.insert(key = xml.readElementText(), QString());
         else if (element == u"string")
             found.insert(key, xml.readElementText());
-        else if (element == u"true" || element == u"false")
-            found.insert(key, element);
     }
     EXPECT_FALSE(xml.hasError()) << qPrintable(path + u": "_s + xml.errorString());
     return found;

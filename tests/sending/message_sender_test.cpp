@@ -46,33 +46,59 @@ TEST(MessageSender, TellsWhyATextCouldNotBeHandedOver) {
     }
 }
 
-QString generatedText(QRandomGenerator& random) {
-    static const QStringList pieces = {
-        u"\""_s,         u"\\"_s,     u"\\\""_s,     u"\n"_s,     u"\r\n"_s,    u"\t"_s,
-        u"\U0001F389"_s, u"\u00e9"_s, u"end tell"_s, u"\" to "_s, u"send \""_s, u"tell "_s,
-        u"& return"_s,   u"-- "_s,    u"(*"_s,       u"|"_s,      u"%1"_s,      u"\u2028"_s,
-    };
-    QString text;
-    for (quint32 left = random.bounded(12U); left > 0; --left)
-        text += pieces.at(random.bounded(static_cast<int>(pieces.size())));
-    return text;
-}
-
 // Catches a text that breaks out of its quotation marks or arrives as another one.
 TEST(MessageSender, EveryTextIsReadBackAsItself) {
+    const QStringList pieces = {
+        u"\""_s,         u"\\"_s,     u"\\\""_s,     u"\n"_s,     u"\r\n"_s,    u"\t"_s,
+        u"\U0001F389"_s, u"\u00e9"_s, u"end tell"_s, u"\" to "_s, u"send \""_s, u"tell "_s,
+        u"& return"_s,   u"-- "_s,    u"(*"_s,       u"|"_s,      u"%1"_s,      u"\u2028"_s};
     QRandomGenerator random(20250314);
+    const auto generated = [&] {
+        QString text;
+        for (int left = random.bounded(12); left > 0; --left)
+            text += pieces[random.bounded(pieces.size())];
+        return text;
+    };
     for (int i = 0; i < 4000; ++i) {
-        const QString text = generatedText(random);
-        const QString phone = generatedText(random);
+        const QString text = generated();
+        const QString phone = generated();
         const Service service = i % 2 == 0 ? Service::iMessage : Service::sms;
-        const QString literal = u'"' + escapedForScript(text) + u'"';
-        const auto read = readStringLiteral(literal, 0);
-        ASSERT_TRUE(read && read->end == literal.size()) << qPrintable(text);
         const auto parsed = parseMessageScript(messageScript(phone, service, text));
         ASSERT_TRUE(parsed) << qPrintable(text);
         EXPECT_EQ(parsed->phone, phone);
         EXPECT_EQ(parsed->service, service);
         EXPECT_EQ(parsed->text, text);
+    }
+}
+
+// Catches a script that a Mac would refuse, or would take for something else, and that runs here.
+TEST(ScriptParser, RefusesWhatIsNotExactlyTheScript) {
+    const QString script = messageScript(u"+12125550123"_s, Service::iMessage, u"Hi"_s);
+    using Cases = std::vector<std::tuple<QString, QString, int>>;
+    for (const auto& [part, replacement, line] : Cases{
+             {script, u""_s, 1},
+             {u"\"Messages\""_s, u"\"Mail\""_s, 1},
+             {u"    set targetAccount to 1st account whose service type = iMessage\n"_s, {}, 2},
+             {u"iMessage"_s, u"\"iMessage\""_s, 2},
+             {u"iMessage"_s, u"imessage"_s, 2},
+             {u"    set targetP"_s, u"\tset targetP"_s, 3},
+             {u"\"+12125550123\""_s, u"+12125550123"_s, 3},
+             {u"    send \"Hi\" to targetParticipant\n"_s, {}, 4},
+             {u"\"Hi\""_s, u"\"Hi"_s, 4},
+             {u"\"Hi\""_s, u"\"\\n\""_s, 4},
+             {u"\"Hi\""_s, u"\"Hi\" & \"there\""_s, 4},
+             {u"\"Hi\""_s, u"\"\" to targetParticipant\ndo shell script \"ls\""_s, 5},
+             {u"Hi"_s, u"a\nb\" x"_s, 5},
+             {u"end tell"_s, u"end tell\n"_s, 5},
+             {u"end tell"_s, u"end tell\ndo shell script \"ls\""_s, 5},
+         }) {
+        ASSERT_TRUE(script.contains(part));
+        const QString source = QString(script).replace(part, replacement);
+        const auto parsed = parseMessageScript(source);
+        ASSERT_FALSE(parsed.has_value()) << source.toStdString();
+        EXPECT_EQ(parsed.error().description,
+                  u"Messages got an error: Can't understand line %1 of the script."_s.arg(line))
+            << source.toStdString();
     }
 }
 

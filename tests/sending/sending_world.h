@@ -44,8 +44,7 @@ struct CountedActivities final : ActivitySource {
 
 /// A runner with everything that it works with, at 11 in the morning. Texts leave on `line`, the
 /// chosen sending number, and are confirmed within 2 seconds, unless `messages` says otherwise.
-class SendingWorld {
-  public:
+struct SendingWorld {
     using State = Runner::State;
 
     static inline const QString line = u"+15550100001"_s;
@@ -82,13 +81,17 @@ class SendingWorld {
         settle();
     }
 
+    /// Lets the run go on until it waits for the user, for this reason.
     void expectPaused(const QString& reason) {
+        settle();
         EXPECT_EQ(runner->state.value(), State::paused);
         EXPECT_EQ(runner->message.value(), reason);
         EXPECT_FALSE(runner->nextIn.value());
     }
 
+    /// Lets the run go on until it has ended, with this summary.
     void expectDone(const QString& summary) {
+        settle();
         EXPECT_EQ(runner->state.value(), State::done);
         EXPECT_EQ(runner->message.value(), summary);
         EXPECT_FALSE(runner->current.value());

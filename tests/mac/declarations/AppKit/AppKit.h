@@ -1,30 +1,22 @@
-// Just the declarations of the platform's AppKit and Core Graphics that src/platform/mac uses,
-// written from its public documentation.
-
+// What src/platform/mac uses of AppKit and Core Graphics, written from their documentation.
 #pragma once
 
 #import <Foundation/Foundation.h>
 
-typedef double CGFloat;
-typedef struct CGSize {
-    CGFloat width;
-    CGFloat height;
-} NSSize;
-typedef struct CGPoint {
-    CGFloat x;
-    CGFloat y;
-} NSPoint;
-typedef struct CGRect {
-    NSPoint origin;
-    NSSize size;
-} NSRect;
+typedef double CGFloat, NSFontWeight;
+struct NSSize {
+    CGFloat width, height;
+};
+struct NSPoint {
+    CGFloat x, y;
+};
+struct NSRect {};
 NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat width, CGFloat height);
 extern const NSRect NSZeroRect;
 
 typedef struct CGColorSpace *CGColorSpaceRef;
 typedef struct CGContext *CGContextRef;
-enum : uint32_t { kCGImageAlphaPremultipliedFirst = 2 };
-enum : uint32_t { kCGBitmapByteOrder32Host = 2 << 12 };
+enum : uint32_t { kCGImageAlphaPremultipliedFirst = 2, kCGBitmapByteOrder32Host = 2 << 12 };
 CGColorSpaceRef CGColorSpaceCreateDeviceRGB(void);
 void CGColorSpaceRelease(CGColorSpaceRef space);
 CGContextRef CGBitmapContextCreate(void *data, size_t width, size_t height, size_t bitsPerComponent,
@@ -34,9 +26,7 @@ void CGContextRelease(CGContextRef context);
 @interface NSWorkspaceOpenConfiguration : NSObject
 + (instancetype)configuration;
 @end
-
 @class NSRunningApplication;
-
 @interface NSWorkspace : NSObject
 @property(class, readonly) NSWorkspace *sharedWorkspace;
 @property(readonly) BOOL accessibilityDisplayShouldReduceMotion;
@@ -47,40 +37,32 @@ void CGContextRelease(CGContextRef context);
            completionHandler:(void (^)(NSRunningApplication *application, NSError *error))handler;
 @end
 
-typedef CGFloat NSFontWeight;
-extern const NSFontWeight NSFontWeightLight;
-extern const NSFontWeight NSFontWeightRegular;
-
+extern const NSFontWeight NSFontWeightLight, NSFontWeightRegular;
 @interface NSImageSymbolConfiguration : NSObject
 + (instancetype)configurationWithPointSize:(CGFloat)size weight:(NSFontWeight)weight;
 @end
 
-typedef NSUInteger NSCompositingOperation;
-enum : NSUInteger { NSCompositingOperationSourceOver = 2 };
-
+enum NSCompositingOperation : NSUInteger { NSCompositingOperationSourceOver = 2 };
 @interface NSImage : NSObject
 + (instancetype)imageWithSystemSymbolName:(NSString *)name
                  accessibilityDescription:(NSString *)description;
 - (NSImage *)imageWithSymbolConfiguration:(NSImageSymbolConfiguration *)configuration;
-@property NSSize size;
+@property(readonly) NSSize size;
 - (void)drawInRect:(NSRect)target
           fromRect:(NSRect)source
          operation:(NSCompositingOperation)operation
           fraction:(CGFloat)fraction;
 @end
-
 @interface NSGraphicsContext : NSObject
 @property(class) NSGraphicsContext *currentContext;
 + (NSGraphicsContext *)graphicsContextWithCGContext:(CGContextRef)context flipped:(BOOL)flipped;
 @end
-
 @interface NSCursor : NSObject
 @property(class, readonly) NSCursor *arrowCursor;
 @property(readonly) NSImage *image;
 @property(readonly) NSPoint hotSpot;
 @end
-
 @interface NSApplication : NSObject
 @property(class, readonly) __kindof NSApplication *sharedApplication;
-@property NSImage *applicationIconImage;
+@property(readonly) NSImage *applicationIconImage;
 @end

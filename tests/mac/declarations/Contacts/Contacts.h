@@ -1,63 +1,43 @@
-// Just the declarations of the platform's Contacts framework that src/platform/mac uses, written
-// from its public documentation.
-
+// What src/platform/mac uses of the Contacts framework, written from its documentation.
 #pragma once
 
 #import <Foundation/Foundation.h>
 
-typedef NSInteger CNEntityType;
-enum : NSInteger { CNEntityTypeContacts = 0 };
+enum CNEntityType : NSInteger { CNEntityTypeContacts };
 typedef NSInteger CNAuthorizationStatus;
 
-@protocol CNKeyDescriptor <NSObject>
+@protocol CNKeyDescriptor
 @end
 @interface NSString (Contacts) <CNKeyDescriptor>
 @end
-
-extern NSString *const CNContactGivenNameKey;
-extern NSString *const CNContactFamilyNameKey;
-extern NSString *const CNContactNicknameKey;
-extern NSString *const CNContactOrganizationNameKey;
-extern NSString *const CNContactPhoneNumbersKey;
-extern NSString *const CNContactEmailAddressesKey;
-
-extern NSString *const CNLabelPhoneNumberMobile;
-extern NSString *const CNLabelPhoneNumberiPhone;
+extern NSString *const CNContactGivenNameKey, *const CNContactFamilyNameKey;
+extern NSString *const CNContactNicknameKey, *const CNContactOrganizationNameKey;
+extern NSString *const CNContactPhoneNumbersKey, *const CNContactEmailAddressesKey;
+extern NSString *const CNLabelPhoneNumberMobile, *const CNLabelPhoneNumberiPhone;
 extern NSString *const CNLabelPhoneNumberMain;
 
 @class NSPredicate;
-
 @interface CNPhoneNumber : NSObject <NSCopying>
 @property(readonly) NSString *stringValue;
 @end
-
 @interface CNLabeledValue<ValueType : id <NSCopying>> : NSObject
 @property(readonly) NSString *label;
 @property(readonly) ValueType value;
 + (NSString *)localizedStringForLabel:(NSString *)label;
 @end
-
 @interface CNContact : NSObject
-@property(readonly) NSString *identifier;
-@property(readonly) NSString *givenName;
-@property(readonly) NSString *familyName;
-@property(readonly) NSString *nickname;
-@property(readonly) NSString *organizationName;
+@property(readonly) NSString *identifier, *givenName, *familyName, *nickname, *organizationName;
 @property(readonly) NSArray<CNLabeledValue<CNPhoneNumber *> *> *phoneNumbers;
 @property(readonly) NSArray<CNLabeledValue<NSString *> *> *emailAddresses;
 + (NSPredicate *)predicateForContactsInGroupWithIdentifier:(NSString *)identifier;
 @end
-
 @interface CNGroup : NSObject
-@property(readonly) NSString *identifier;
-@property(readonly) NSString *name;
+@property(readonly) NSString *identifier, *name;
 @end
-
 @interface CNContactFetchRequest : NSObject
 - (instancetype)initWithKeysToFetch:(NSArray<id<CNKeyDescriptor>> *)keys;
 @property BOOL unifyResults;
 @end
-
 @interface CNContactStore : NSObject
 + (CNAuthorizationStatus)authorizationStatusForEntityType:(CNEntityType)type;
 - (void)requestAccessForEntityType:(CNEntityType)type

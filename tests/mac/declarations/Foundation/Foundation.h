@@ -1,7 +1,5 @@
-// Just the declarations of the platform's Foundation and Core Foundation that src/platform/mac
-// uses, written from its public documentation, so that a compiler without the platform can check
-// our files: a selector, type or constant that is misspelt there is not found here.
-
+// What src/platform/mac uses of Foundation and Core Foundation, written from their documentation: a
+// compiler without the platform checks our files, as what is misspelt there is not found here.
 #pragma once
 
 #include <stddef.h>
@@ -14,15 +12,16 @@ typedef bool BOOL;
 typedef long NSInteger;
 typedef unsigned long NSUInteger;
 typedef unsigned short unichar;
-
-typedef struct NSRange {
-    NSUInteger location;
-    NSUInteger length;
-} NSRange;
+struct NSRange {};
 NSRange NSMakeRange(NSUInteger location, NSUInteger length);
 
+@protocol NSCopying
+@end
 @protocol NSObject
 - (BOOL)isKindOfClass:(Class)type;
+@end
+@protocol NSFastEnumeration
+- (NSUInteger)countByEnumeratingWithState:(void *)state objects:(id *)buffer count:(NSUInteger)size;
 @end
 
 __attribute__((objc_root_class))
@@ -32,28 +31,11 @@ __attribute__((objc_root_class))
 - (instancetype)init;
 @end
 
-typedef struct {
-    unsigned long state;
-    id __unsafe_unretained *itemsPtr;
-    unsigned long *mutationsPtr;
-    unsigned long extra[5];
-} NSFastEnumerationState;
-
-@protocol NSFastEnumeration
-- (NSUInteger)countByEnumeratingWithState:(NSFastEnumerationState *)state
-                                  objects:(id __unsafe_unretained[])buffer
-                                    count:(NSUInteger)length;
-@end
-
-@protocol NSCopying
-@end
-
 @interface NSString : NSObject <NSCopying>
 + (instancetype)stringWithCharacters:(const unichar *)characters length:(NSUInteger)length;
 @property(readonly) NSUInteger length;
 - (void)getCharacters:(unichar *)buffer range:(NSRange)range;
 @end
-
 @interface NSConstantString : NSString
 @end
 
@@ -61,7 +43,6 @@ typedef struct {
 + (instancetype)arrayWithObjects:(const ObjectType[])objects count:(NSUInteger)count;
 @property(readonly) ObjectType firstObject;
 @end
-
 @interface NSDictionary<KeyType, ObjectType> : NSObject <NSFastEnumeration>
 - (ObjectType)objectForKey:(KeyType)key;
 @end
@@ -69,28 +50,20 @@ typedef struct {
 @interface NSError : NSObject
 @property(readonly) NSString *localizedDescription;
 @end
-
 @interface NSURL : NSObject
 + (instancetype)URLWithString:(NSString *)text;
 @property(readonly) NSString *path;
 @end
 
-typedef NSUInteger NSSearchPathDirectory;
-enum : NSUInteger { NSApplicationSupportDirectory = 14 };
-typedef NSUInteger NSSearchPathDomainMask;
-enum : NSUInteger { NSUserDomainMask = 1 };
+enum NSSearchPathDirectory : NSUInteger { NSApplicationSupportDirectory = 14 };
+enum NSSearchPathDomainMask : NSUInteger { NSUserDomainMask = 1 };
 NSString *NSHomeDirectory(void);
-
 @interface NSFileManager : NSObject
 @property(class, readonly) NSFileManager *defaultManager;
 - (NSArray<NSURL *> *)URLsForDirectory:(NSSearchPathDirectory)directory
                              inDomains:(NSSearchPathDomainMask)domains;
 @end
-
-typedef uint64_t NSActivityOptions;
-// User-initiated work that also keeps the system from idle sleep: 0x00FFFFFF.
-enum : uint64_t { NSActivityUserInitiated = 0x00FFFFFFULL };
-
+enum NSActivityOptions : uint64_t { NSActivityUserInitiated = 0x00FFFFFF };
 @interface NSProcessInfo : NSObject
 @property(class, readonly) NSProcessInfo *processInfo;
 - (id<NSObject>)beginActivityWithOptions:(NSActivityOptions)options reason:(NSString *)reason;
@@ -99,17 +72,13 @@ enum : uint64_t { NSActivityUserInitiated = 0x00FFFFFFULL };
 
 @class NSAppleEventDescriptor;
 extern NSString *const NSAppleScriptErrorMessage;
-
 @interface NSAppleScript : NSObject
 - (instancetype)initWithSource:(NSString *)source;
 - (NSAppleEventDescriptor *)executeAndReturnError:(NSDictionary<NSString *, id> **)error;
 @end
 
-typedef const void *CFTypeRef;
-typedef CFTypeRef CFPropertyListRef;
+typedef const void *CFTypeRef, *CFPropertyListRef;
 typedef const struct __attribute__((objc_bridge(NSString))) __CFString *CFStringRef;
 #define CFSTR(text) ((__bridge CFStringRef) @text)
 CFPropertyListRef CFPreferencesCopyAppValue(CFStringRef key, CFStringRef application);
-static inline id CFBridgingRelease(CFTypeRef __attribute__((cf_consumed)) value) {
-    return (__bridge_transfer id)value;
-}
+id CFBridgingRelease(CFTypeRef __attribute__((cf_consumed)) value);

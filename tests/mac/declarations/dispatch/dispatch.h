@@ -1,6 +1,4 @@
-// Just the declarations of the platform's queues that src/platform/mac uses, written from its
-// public documentation.
-
+// What src/platform/mac uses of the platform's queues, written from their documentation.
 #pragma once
 
 #import <Foundation/Foundation.h>

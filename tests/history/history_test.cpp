@@ -1,11 +1,13 @@
-#include "history/messages_db.h"
-
 #include <gtest/gtest.h>
 
 #include <limits>
 
 #include "core/files.h"
-#include "history/history_file.h"
+#include "history/account_preferences.h"
+#include "history/messages_db.h"
+#include "history/sent_record_wait.h"
+#include "support/rehearsal_home.h"
+#include "support/virtual_surroundings.h"
 
 namespace velmora {
 namespace {
@@ -13,10 +15,19 @@ namespace {
 using namespace Qt::StringLiterals;
 using Range = std::numeric_limits<qint64>;
 
-class MessagesDBTest : public HistoryFile {
+const QString annsPhone = u"+15551234567"_s;
+
+/// A history file of its own for each test. Whoever writes to it closes it again, so that its bytes
+/// are all in the one file.
+class MessagesDBTest : public ::testing::Test {
   protected:
+    qint64 record(const HistoryMessage& message, ChatStyle style = ChatStyle::oneToOne) {
+        return HistoryWriter::open(path).value().add(message, style).value();
+    }
+    auto change(const char* sql) { return changeHistory(path, sql); }
+    [[nodiscard]] MessagesDB open() const { return MessagesDB::open(path).value(); }
     [[nodiscard]] QString whyNotOpened() const {
-        const auto history = MessagesDB::open(path());
+        const auto history = MessagesDB::open(path);
         return history ? u"opened"_s : history.error().description();
     }
     /// The line of Ann's thread.
@@ -24,6 +35,9 @@ class MessagesDBTest : public HistoryFile {
         const auto thread = open().thread(annsPhone, otherHandles).value();
         return thread.transform([](const ThreadInfo& found) { return found.line; });
     }
+
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"chat.db"_s);
 };
 
 TEST(HistoryTimestamp, IsCutTowardZeroAndStaysInRange) {
@@ -44,10 +58,10 @@ TEST(HandleVariants, KeepTheirOrderAndDuplicates) {
 
 TEST_F(MessagesDBTest, SaysInASentenceWhyItCannotBeRead) {
     EXPECT_EQ(whyNotOpened(), u"Couldn't open Messages history: unable to open database file");
-    EXPECT_FALSE(QFile::exists(path())) << "opening made a file";
-    writeTestFile(path(), "no database, but long enough to be looked at as if it were one");
+    EXPECT_FALSE(QFile::exists(path)) << "opening made a file";
+    writeTestFile(path, "no database, but long enough to be looked at as if it were one");
     EXPECT_EQ(whyNotOpened(), u"Couldn't read Messages history: file is not a database");
-    writeTestFile(path(), "");
+    writeTestFile(path, "");
     EXPECT_EQ(whyNotOpened(), u"Couldn't read Messages history: no such table: message");
     change("CREATE TABLE message (a)");
     EXPECT_EQ(whyNotOpened(), u"opened") << "no row is no failure";
@@ -55,8 +69,9 @@ TEST_F(MessagesDBTest, SaysInASentenceWhyItCannotBeRead) {
     EXPECT_EQ(whyNotOpened(), u"Couldn't read Messages history: database is locked");
 }
 
-TEST_F(MessagesDBTest, ReadsEachColumnByItsStorageAndAnyBytes) {
+TEST_F(MessagesDBTest, ReadsEachColumnByItsStorageAndLeavesTheFileAsItWas) {
     record({.handle = annsPhone});
+    const QByteArray before = readFile(path).value();
     const QString sql =
         u"SELECT ?, ?, NULL, 1.5, x'41', CAST(x'410042' AS TEXT), CAST(x'ff7a' AS TEXT)"
         " UNION ALL SELECT 1,2,3,4,5,6,7"_s;
@@ -64,14 +79,9 @@ TEST_F(MessagesDBTest, ReadsEachColumnByItsStorageAndAnyBytes) {
     ASSERT_EQ(rows.size(), 2);
     const MessagesDB::Row expected{u"Zoë"_s, Range::min(), {}, {}, {}, u"A\0B"_s, u"\uFFFDz"_s};
     EXPECT_EQ(rows.front(), expected);
-}
-
-TEST_F(MessagesDBTest, LeavesTheFileAsItWas) {
-    record({.handle = annsPhone});
-    const QByteArray before = readFile(path()).value();
     EXPECT_EQ(open().query(u"DELETE FROM message"_s, {}).error().description(),
               u"Couldn't read Messages history: attempt to write a readonly database");
-    EXPECT_EQ(readFile(path()), before);
+    EXPECT_EQ(readFile(path), before);
 }
 
 TEST_F(MessagesDBTest, SenderNumbersAreTheSixBusiestUsedInNinetyDays) {
@@ -126,13 +136,108 @@ TEST_F(MessagesDBTest, LastSentIsTheNewestFromMeSinceThen) {
     const SentRecord newest = open().lastSent(annsPhone, 7).value().value_or(SentRecord());
     EXPECT_EQ(newest.service + newest.line, u"SMS+1");
     EXPECT_TRUE(newest.sent && !newest.delivered && newest.error == 0);
-    change(
-        "UPDATE message SET service = x'41', destination_caller_id = 1.5, error = 'x',"
-        "is_sent = 0.5, is_delivered = -2");
+    change(R"(UPDATE message SET service = x'41', destination_caller_id = 1.5, error = 'x',
+              is_sent = 0.5, is_delivered = -2)");
     const SentRecord odd = open().lastSent(annsPhone, 7).value().value_or(SentRecord());
     EXPECT_TRUE(odd.service.isEmpty() && odd.error == 0 && !odd.sent && odd.delivered);
     change("DROP TABLE handle");
     EXPECT_FALSE(open().lastSent(annsPhone, 7).has_value());
+}
+
+class SentRecordWait : public MessagesDBTest {
+  protected:
+    /// Waits for Ann's record since 10 and expects the answer after so many seconds.
+    std::optional<SentRecord> wait(double timeout, double expectedSeconds) {
+        const double start = world.clock.uptime();
+        double end = -1;
+        std::optional<SentRecord> answer;
+        waitForSentRecord(world.handed(), path, annsPhone, 10, timeout)
+            .then([&](std::optional<SentRecord> record) {
+                answer = std::move(record);
+                end = world.clock.uptime();
+            });
+        EXPECT_TRUE(world.clock.runUntilIdle());
+        EXPECT_EQ(end - start, expectedSeconds);
+        return answer;
+    }
+    void settleAfter(double seconds, bool sent, bool delivered) {
+        world.clock.after(seconds, [=, this, row = record(pending)] {
+            EXPECT_TRUE(HistoryWriter::open(path)->setFlags(row, sent, delivered).has_value());
+        });
+    }
+
+    const HistoryMessage pending{.handle = annsPhone, .date = 10};
+    VirtualSurroundings world;
+};
+
+TEST_F(SentRecordWait, EndsAtTheFirstReadingThatSettlesIt) {
+    settleAfter(3, true, false);
+    EXPECT_TRUE(wait(20, 4).value_or(SentRecord()).sent);
+    settleAfter(1, false, true);
+    EXPECT_TRUE(wait(std::numeric_limits<double>::infinity(), 2).value_or(SentRecord()).delivered);
+    record({.handle = annsPhone, .date = 11, .error = 5});
+    EXPECT_EQ(wait(1e300, 0).value_or(SentRecord()).error, 5);
+}
+
+TEST_F(SentRecordWait, GivesTheUnsettledRecordAfterTheTimeout) {
+    EXPECT_FALSE(wait(5, 6).has_value()) << "no history at all";
+    record(pending);
+    EXPECT_FALSE(wait(5, 6).value_or(SentRecord{{}, {}, 1}).isConclusive());
+    world.clock.after(1, [this] { world.clock.shiftWall(3600); });
+    EXPECT_TRUE(wait(4, 4).has_value())
+        << "setting the wall clock neither shortens nor prolongs it";
+}
+
+TEST_F(SentRecordWait, ForgetsWhatItSawWhenTheLastReadingFails) {
+    for (const char* rest :
+         {"", "truncated to a text that is no database, as a crash may leave it"}) {
+        QFile::remove(path);
+        record(pending);
+        world.clock.after(3, [this, rest] { writeTestFile(path, rest); });
+        EXPECT_FALSE(wait(5, 6).has_value()) << rest;
+    }
+}
+
+TEST_F(SentRecordWait, ReadsTheFileThatIsThereAtEachReading) {
+    record(pending);
+    world.clock.after(1, [this] { QFile::remove(path); });
+    world.clock.after(3, [this] { record({.handle = annsPhone, .date = 12, .delivered = true}); });
+    EXPECT_TRUE(wait(20, 4).value_or(SentRecord()).delivered);
+}
+
+TEST_F(SentRecordWait, ReadsNothingWithoutTime) {
+    record(pending);
+    for (const double timeout : {0.0, -1.0, std::numeric_limits<double>::quiet_NaN()})
+        EXPECT_FALSE(wait(timeout, 0).has_value());
+}
+
+struct StoredAliases final : AccountPreferences {
+    explicit StoredAliases(QVariant value) : value(std::move(value)) {}
+    [[nodiscard]] QVariant aliases() const override { return value; }
+
+    QVariant value;
+};
+
+QStringList aliasesOf(const QVariant& selected, const QVariant& all) {
+    return phoneAliases(
+        StoredAliases(QVariantMap{{u"selectedAliases"_s, selected}, {u"allAliases"_s, all}}));
+}
+
+TEST(PhoneAliases, AreTheSelectedNumbersElseAllAndNoneWithoutAList) {
+    const QStringList all{u"ann@example.com"_s, u"+1"_s, u"+2"_s};
+    const QStringList selected{u"+2"_s};
+    EXPECT_EQ(aliasesOf(QStringList{u"+2"_s, u"a@b.c"_s, u"+1"_s}, all),
+              (QStringList{u"+2"_s, u"+1"_s}));
+    EXPECT_EQ(aliasesOf(QVariantList{u"+2"_s}, QVariantList{u"+1"_s}), selected);
+    // No number, another type, not only texts.
+    for (const QVariant& useless :
+         {QVariant(QStringList{all[0]}), QVariant(u"+2"_s), QVariant(QVariantList{u"+2"_s, 7})})
+        EXPECT_EQ(aliasesOf(useless, all), all.sliced(1));
+    EXPECT_EQ(aliasesOf({}, QStringList{all[0]}), QStringList());
+    for (const QVariant& noList : {QVariant(), QVariant(QVariantList{u"+1"_s, 7})})
+        EXPECT_EQ(aliasesOf(selected, noList), QStringList());
+    for (const QVariant& value : {QVariant(), QVariant(u"+1"_s), QVariant(QVariantMap())})
+        EXPECT_EQ(phoneAliases(StoredAliases(value)), QStringList());
 }
 
 }  // namespace

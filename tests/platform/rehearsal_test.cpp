@@ -1,0 +1,236 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <qcoro/qcorotask.h>
+
+#include <QFile>
+#include <QRegularExpression>
+
+#include "contacts/contacts_service.h"
+#include "core/config_store.h"
+#include "core/phone.h"
+#include "history/messages_db.h"
+#include "platform/rehearsal/address_book.h"
+#include "platform/rehearsal/messages_application.h"
+#include "platform/rehearsal/rehearsal_platform.h"
+#include "platform/rehearsal/sample/sample_home.h"
+#include "sending/message_sender.h"
+#include "support/rehearsal_home.h"
+#include "support/virtual_surroundings.h"
+
+using namespace Qt::StringLiterals;
+
+namespace velmora {
+namespace {
+
+class RehearsalTest : public testing::Test {
+  protected:
+    VirtualSurroundings world;
+    RehearsalHome home;
+};
+
+class AddressBookTest : public RehearsalTest {
+  protected:
+    std::vector<ContactRecord> everybody() {
+        std::vector<ContactRecord> people;
+        const auto read = book.enumerateContacts(
+            [&people](ContactRecord contact) { people.push_back(std::move(contact)); });
+        EXPECT_TRUE(read.has_value());
+        return people;
+    }
+
+    AddressBook book{home.path()};
+};
+
+// Catches a label made up for a number that has none, and a missing key or file taken for an error.
+// The other properties are what the list of people shows.
+TEST_F(AddressBookTest, ReadsLabelsAndTakesAMissingKeyOrFileAsEmpty) {
+    EXPECT_TRUE(everybody().empty()) << "without a file";
+    home.writeContacts(R"json({"contacts": [{"identifier": "c1", "phoneNumbers": [
+        {"label": "_$!<Home>!$_", "value": "(212) 555-0101"}, {"value": "+44 7700 900001"}]}]})json");
+    const auto phones = everybody().at(0).phoneNumbers;
+    ASSERT_EQ(phones.size(), 2U);
+    EXPECT_EQ(phones[0].label, u"_$!<Home>!$_"_s);
+    EXPECT_EQ(phones[1].label, std::nullopt);
+}
+
+// Catches a member twice, a stranger in a group, and an unknown group taken for an empty one.
+TEST_F(AddressBookTest, MembersComeInTheOrderOfTheBookAndAnUnknownGroupIsAnError) {
+    home.writeContacts(addressBook(
+        {person(u"c1"_s, u"Zoe"_s, {}), person(u"c2"_s, {}, {}), person(u"c3"_s, {}, {})},
+        {{u"g2"_s, u"Work"_s, {u"c3"_s, u"c1"_s, u"c3"_s, u"gone"_s}}}));
+    QStringList members;
+    const auto work = book.membersOfGroup(u"g2"_s);
+    for (const ContactRecord& each : work.value())
+        members.append(each.identifier);
+    EXPECT_EQ(members, (QStringList{u"c1"_s, u"c3"_s}));
+    EXPECT_TRUE(book.membersOfGroup(u"g9"_s).error().description.endsWith(u'.'));
+}
+
+// Catches a read that goes on with part of a broken book, or that is kept from the user as denied.
+TEST_F(AddressBookTest, ABrokenFileFailsEveryReadWithOneSentence) {
+    for (const QByteArray json :
+         {"{\"contacts\": [", "[]", R"({"contacts": {}})", R"({"contacts": [{"givenName": 5}]})",
+          R"({"contacts": ["c1"]})", R"({"groups": [{"members": [1]}]})", R"({"access": true})"}) {
+        home.writeContacts(json);
+        const auto people = book.enumerateContacts([](const ContactRecord&) {});
+        ASSERT_FALSE(people || book.allGroups() || book.membersOfGroup(u"g1"_s))
+            << json.constData();
+        EXPECT_THAT(people.error().description.toStdString(), testing::HasSubstr("contacts.json"));
+        EXPECT_EQ(book.access(), ContactAccess::authorized);
+    }
+}
+
+// Catches names read without permission, and permission remembered after the user took it away.
+TEST_F(AddressBookTest, DeniedAccessRefusesEveryReadUntilItIsGranted) {
+    home.writeContacts(R"({"access": "denied", "contacts": [{"identifier": "c1"}]})");
+    EXPECT_EQ(book.access(), ContactAccess::denied);
+    EXPECT_FALSE(QCoro::waitFor(book.requestAccess()));
+    EXPECT_FALSE(book.enumerateContacts([](const ContactRecord&) { ADD_FAILURE(); }).has_value());
+    EXPECT_FALSE(book.allGroups().has_value());
+    home.writeContacts(R"({"access": "granted", "contacts": [{"identifier": "c1"}]})");
+    EXPECT_TRUE(QCoro::waitFor(book.requestAccess()));
+    EXPECT_EQ(everybody().size(), 1U);
+}
+
+const QString ann = u"+12125550123"_s;
+const QString line = u"+12125550100"_s;
+
+class MessagesApplicationTest : public RehearsalTest {
+  protected:
+    void send(Service service = Service::iMessage) {
+        sentAt = world.clock.uptime();
+        since = historyTimestamp(world.clock.now());
+        EXPECT_EQ(messages->run(messageScript(ann, service, u"Hi"_s)).outcome,
+                  ScriptResult::Outcome::success);
+    }
+
+    std::optional<SentRecord> record() {
+        auto history = MessagesDB::open(home.historyPath());
+        return history ? history->lastSent(ann, since).value() : std::nullopt;
+    }
+
+    // So long after the send: "-" without a record, else s for sent and d for delivered.
+    QString flagsAfter(double seconds) {
+        world.clock.advance(seconds - (world.clock.uptime() - sentAt));
+        const auto found = record();
+        if (!found)
+            return u"-"_s;
+        return QString(found->sent ? u"s"_s : QString()) + (found->delivered ? u"d"_s : QString());
+    }
+
+    std::optional<MessagesApplication> messages{std::in_place, world.clock, home.path()};
+    double sentAt = 0;
+    qint64 since = 0;
+};
+
+// Catches a row that is there at once or with its flags set, a date other than the script's, and
+// defaults that are lost without a settings file.
+TEST_F(MessagesApplicationTest, TheRowComesFirstAndItsFlagsLater) {
+    send(Service::sms);
+    QStringList flags;
+    for (const double seconds : {0.29, 0.31, 0.99, 1.01, 1.99, 2.01})
+        flags.append(flagsAfter(seconds));
+    EXPECT_EQ(flags.join(u'|'), u"-|||s|s|sd"_s);
+    EXPECT_EQ(record()->service, u"SMS"_s);
+    ++since;
+    EXPECT_FALSE(record().has_value());
+}
+
+// Catches settings kept from an earlier send, an error whose text leaves, flags that fall before
+// their row and are lost, and a never that comes.
+TEST_F(MessagesApplicationTest, SettingsAreReadAtEverySend) {
+    home.writeMessages(R"({"error": 22})");
+    send();
+    EXPECT_EQ(flagsAfter(60), u""_s);
+    home.writeMessages(R"({"recordAfter": 5, "sentAfter": 1, "deliveredAfter": null})");
+    send();
+    EXPECT_EQ(flagsAfter(4.9), u"-"_s);
+    EXPECT_EQ(flagsAfter(60), u"s"_s);
+}
+
+// Catches a failing script that leaves a row, and broken settings that are taken for the defaults.
+TEST_F(MessagesApplicationTest, AFailingScriptLeavesNothing) {
+    const auto fails = [this](const QByteArray& settings) {
+        home.writeMessages(settings);
+        const auto result = messages->run(messageScript(ann, Service::iMessage, u"Hi"_s));
+        EXPECT_EQ(result.outcome, ScriptResult::Outcome::failure) << settings.constData();
+        EXPECT_TRUE(world.clock.runUntilIdle(0)) << settings.constData();
+        return result.message.value_or(QString()).toStdString();
+    };
+    EXPECT_EQ(fails(messagesOnLine(line, {{ann, R"({"scriptError": "Can't get participant."})"}})),
+              "Can't get participant.");
+    for (const QByteArray settings : {"{", "[]", R"({"line": 5})", R"({"error": 1.5})",
+                                      R"({"people": {"+12125550123": {"iMessage": 5}}})"})
+        EXPECT_THAT(fails(settings), testing::HasSubstr("messages.json"));
+}
+
+// Catches writing into a history that was deleted while the application ran, flags that fall on a
+// stranger's row of a new one, a table or column of others that disturbs, and what is still to come
+// being called on an application that has ended.
+TEST_F(MessagesApplicationTest, ADeletedHistoryIsMadeAnewAndAnEndEndsAll) {
+    static_cast<void>(home.history());
+    changeHistory(home.historyPath(),
+                  "CREATE TABLE attachment (a); ALTER TABLE message ADD COLUMN is_read DEFAULT 0");
+    send();
+    EXPECT_EQ(flagsAfter(10), u"sd"_s);
+    send();
+    EXPECT_EQ(flagsAfter(0.5), u""_s);
+    for (const QString& suffix : {u""_s, u"-wal"_s, u"-shm"_s})
+        QFile::remove(home.historyPath() + suffix);
+    for (int row = 1; row <= 2; ++row)
+        EXPECT_EQ(HistoryWriter::open(home.historyPath())->add({.handle = ann, .date = since}),
+                  row);
+    EXPECT_EQ(flagsAfter(10), u""_s);
+    send();
+    EXPECT_EQ(flagsAfter(0.5), u""_s);
+    messages.reset();
+    EXPECT_EQ(flagsAfter(60), u""_s);
+}
+
+class SampleHomeTest : public RehearsalTest {
+  protected:
+    SampleHomeTest() { EXPECT_TRUE(prepareSampleHome(path, world.clock.now()).has_value()); }
+
+    MessagesDB history() { return MessagesDB::open(messagesHistoryPath(path)).value(); }
+
+    QString path = home.path() + u"/sample"_s;
+    Platform platform = makeRehearsalPlatform(world.clock, path);
+    ContactsService contacts{*platform.contacts};
+};
+
+// Catches somebody's real number in what every rehearsal shows.
+TEST_F(SampleHomeTest, EveryNumberIsSetAsideForFiction) {
+    static const QRegularExpression fiction(
+        u"^\\+(1[2-9]\\d\\d55501\\d\\d|447700900\\d{3}|467017406(0[5-9]|[1-9]\\d))$"_s);
+    QStringList numbers;
+    const auto people = contacts.allContacts();
+    for (const ContactRecord& person : people.value()) {
+        for (const PhoneEntry& entry : person.phoneNumbers)
+            numbers.append(normalizePhone(entry.value).value_or(u"@example.com"_s));
+    }
+    const auto handles = history().query(
+        u"SELECT id FROM handle UNION SELECT destination_caller_id FROM message"_s, {});
+    for (const auto& row : handles.value()) {
+        const QString handle = std::get<QString>(row.at(0));
+        numbers.append(normalizePhone(handle).value_or(handle));
+    }
+    EXPECT_GT(numbers.size(), 60);
+    for (const QString& each : numbers)
+        EXPECT_TRUE(each.endsWith(u"@example.com") || fiction.match(each).hasMatch())
+            << each.toStdString();
+    EXPECT_EQ(history().senderNumbers(world.clock.now()).value().size(), 2U);
+}
+
+// Catches settings that are malformed (all defaults then) or keep a rehearsal from running at
+// night, and a rehearsal's own changes that are overwritten by preparing its home again.
+TEST_F(SampleHomeTest, AllowsAQuickRehearsalAtAnyHourAndIsPreparedOnce) {
+    SupportFolder support(platform.applicationSupport);
+    const AppConfig config = ConfigStore(support).load();
+    EXPECT_LT(config.delayMax, 5);
+    EXPECT_LT(config.verifyWait, 8) << "Elena's late confirmation would never be seen";
+    EXPECT_EQ(config.quietStart + u'-' + config.quietEnd, u"00:00-23:59"_s);
+    EXPECT_FALSE(prepareSampleHome(path, world.clock.now()).has_value());
+}
+
+}  // namespace
+}  // namespace velmora
