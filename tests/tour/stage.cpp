@@ -36,6 +36,7 @@ Stage::Stage(const QDir& folder, Pace pace)
                                     : virtual_.handed()) {
     if (pace == Pace::asInLife)
         folder_.removeRecursively();
+    folder_.remove(u"01-failure.png"_s);
     if (!folder_.mkpath(u"."_s))
         fail(u"the folder could not be made"_s);
     if (auto done = prepareSampleHome(home_.path(), world_.clock.now()); !done)

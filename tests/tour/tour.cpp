@@ -41,7 +41,6 @@ void chooseList(Stage& stage) {
     stage.click(u"Friday Dinner, 8"_s);
     stage.expect(stage.model().recipients().size() == 8, u"the list does not hold eight people"_s);
     stage.click(u"Select All"_s);
-    stage.expect(stage.model().selection().size() == 8, u"not everyone was checked"_s);
     // Farid's text is never recorded, which would take the final check two minutes.
     stage.click(u"Select Farid Haddad"_s);
     stage.expect(stage.model().selection().size() == 7, u"Farid is still checked"_s);

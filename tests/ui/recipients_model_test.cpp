@@ -31,11 +31,6 @@ class Recipients : public AppHome {
         return *list;
     }
 
-    void TearDown() override {
-        tester.reset();
-        list.reset();
-    }
-
     [[nodiscard]] QString text(int row, Role role) const {
         return list->data(list->index(row), role).toString();
     }

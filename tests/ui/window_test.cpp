@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <QGuiApplication>
+#include <QTest>
 
 #include "app/app_home.h"
 #include "ui/window_driver.h"
@@ -143,6 +144,8 @@ TEST_F(WindowTest, MenusAndShortcutsDoTheirWork) {
     EXPECT_TRUE(user.click(u"People"_s, QAccessible::ButtonMenu));
     EXPECT_TRUE(user.click(u"Select All"_s, QAccessible::MenuItem));
     EXPECT_EQ(model->selection().size(), 3);
+    // A menu that opens under the pointer would highlight what lies there, at its first frame.
+    QTest::mouseMove(&user.window(), {20, user.window().height() - 20});
     user.key(Qt::Key_F10);
     for (int menu = 0; menu < 3; ++menu)
         user.key(Qt::Key_Right);
