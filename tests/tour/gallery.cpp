@@ -24,10 +24,10 @@ void firstStart(Stage& stage) {
     const QByteArray history = stage.contentOf(historyPath);
     stage.remove(historyPath);
     stage.open();
-    stage.until(u"the terms"_s, [&] { return stage.user().shows(u"I Agree"_s); });
+    stage.untilShown(u"I Agree"_s);
     stage.show(u"01-terms"_s);
     stage.click(u"I Agree"_s);
-    stage.until(u"the help"_s, [&] { return stage.user().shows(u"Not Now"_s); });
+    stage.untilShown(u"Not Now"_s);
     // The loop of the drawing is 7 seconds.
     for (const double moment : {0.2, 1.2, 2.3, 4.0, 6.6}) {
         stage.passTo(moment, 7);
@@ -44,20 +44,20 @@ void noNumber(Stage& stage) {
     stage.emptyHistory();
     stage.place(messagesPath, "{}");
     stage.open();
-    stage.until(u"the sheet"_s, [&] { return stage.user().shows(u"Open Messages"_s); });
+    stage.untilShown(u"Open Messages"_s);
     stage.show(u"04-no-number"_s);
     stage.click(u"Choose Later"_s);
-    stage.model().openSettings();
+    stage.click(u"Open Settings"_s);
     stage.show(u"05-settings-no-number"_s, stage.window(u"Settings"_s));
 }
 
 void severalNumbers(Stage& stage) {
     stage.editSettings([](AppConfig& config) { config.termsAccepted = u"1"_s; });
     stage.open();
-    stage.until(u"the sheet"_s, [&] { return stage.user().shows(u"Choose Later"_s); });
+    stage.untilShown(u"Choose Later"_s);
     stage.show(u"06-several-numbers"_s);
     stage.click(u"Choose Later"_s);
-    stage.until(u"the banner"_s, [&] { return stage.user().shows(u"Open Settings"_s); });
+    stage.untilShown(u"Open Settings"_s);
     stage.show(u"07-banner-sending-number"_s);
 }
 
@@ -65,6 +65,9 @@ void contactsDenied(Stage& stage) {
     stage.editSettings([](AppConfig& config) { config.termsAccepted = u"1"_s; });
     stage.place(addressBookPath, R"({ "access": "denied" })");
     stage.open();
+    stage.untilShown(u"Open System Settings"_s);
+    stage.expect(!stage.user().shows(u"Show Me How"_s) && !stage.user().shows(u"Open Settings"_s),
+                 u"a banner lies beside the explanation"_s);
     stage.show(u"08-contacts-denied"_s);
 }
 
@@ -75,6 +78,7 @@ void emptyStates(Stage& stage) {
                                               "\"name\": \"Choir\", \"members\": [] },"));
     stage.openDinner();
     stage.model().selectGroup({});
+    stage.untilShown(u"Choose a list"_s);
     stage.show(u"09-no-list"_s);
     stage.click(u"Choir, 0"_s);
     stage.show(u"10-nobody"_s);
@@ -129,12 +133,12 @@ void message(Stage& stage) {
     stage.show(u"21-people-menu"_s);
     stage.user().key(Qt::Key_Escape);
     stage.click(u"Send to 8…"_s);
-    stage.until(u"the confirm sheet"_s, [&] { return stage.user().shows(u"Start Sending"_s); });
+    stage.untilShown(u"Start Sending"_s);
     stage.show(u"22-confirm"_s);
     stage.user().key(Qt::Key_Escape);
     stage.click(u"Clear All"_s);
     stage.user().key(Qt::Key_Return, Qt::ControlModifier);
-    stage.until(u"the alert"_s, [&] { return stage.user().shows(u"OK"_s); });
+    stage.untilShown(u"OK"_s);
     stage.show(u"23-alert"_s);
 }
 
@@ -154,6 +158,7 @@ void run(Stage& stage) {
     stage.until(u"the end"_s, [&] { return stage.model().runner().state == Runner::State::done; });
     stage.show(u"29-done"_s);
     stage.user().key(Qt::Key_R, Qt::ControlModifier);
+    stage.until(u"the reload"_s, [&] { return stage.model().selection().isEmpty(); });
     stage.show(u"30-already-sent"_s);
 }
 
@@ -163,7 +168,7 @@ void stopping(Stage& stage) {
     stage.until(u"a text under way"_s,
                 [&] { return stage.model().runner().current.value().has_value(); });
     stage.click(u"Stop"_s);
-    stage.until(u"the stop"_s, [&] { return stage.user().shows(u"Stopping…"_s); });
+    stage.untilShown(u"Stopping…"_s);
     stage.show(u"28-stopping"_s);
 }
 
@@ -207,16 +212,12 @@ int main(int argc, char** argv) {
     using namespace velmora;
     const QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
-    const QStringList arguments = QGuiApplication::arguments();
-    if (arguments.size() != 2) {
-        std::fputs("Usage: velmora_gallery <folder for the pictures>\n", stderr);
-        return 2;
-    }
+    const QDir folder = Stage::folderForPictures();
     for (auto* scene : {firstStart, noNumber, severalNumbers, contactsDenied, emptyStates, lists,
                         message, run, stopping, pausedForHours, pausedForFailures, settings}) {
-        Stage stage{QDir(arguments[1])};
+        Stage stage(folder);
         scene(stage);
     }
-    std::printf("Pictures: %s\n", qPrintable(arguments[1]));
+    std::printf("Pictures: %s\n", qPrintable(folder.path()));
     return 0;
 }

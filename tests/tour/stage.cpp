@@ -1,7 +1,9 @@
 #include "tour/stage.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QPalette>
+#include <QTest>
 #include <cmath>
 #include <cstdio>
 
@@ -17,10 +19,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-enum class Appearance { light, dark };
-
-void setAppearance(Appearance appearance) {
-    const bool dark = appearance == Appearance::dark;
+void setDark(bool dark) {
     QPalette palette;
     palette.setColor(QPalette::Window, dark ? QColor(30, 30, 32) : QColor(245, 245, 247));
     palette.setColor(QPalette::WindowText, dark ? Qt::white : Qt::black);
@@ -29,7 +28,17 @@ void setAppearance(Appearance appearance) {
 
 }  // namespace
 
-Stage::Stage(const QDir& folder) : folder_(folder) {
+Stage::Stage(const QDir& folder, Pace pace)
+    : folder_(folder.absolutePath()),
+      pace_(pace),
+      home_(pace == Pace::asInLife ? folder_.filePath(u"home"_s) : temporary_.path()),
+      world_(pace == Pace::asInLife ? Surroundings{clock_, random_, background_}
+                                    : virtual_.handed()) {
+    if (pace == Pace::asInLife)
+        folder_.removeRecursively();
+    folder_.remove(u"01-failure.png"_s);
+    if (!folder_.mkpath(u"."_s))
+        fail(u"the folder could not be made"_s);
     if (auto done = prepareSampleHome(home_.path(), world_.clock.now()); !done)
         fail(done.error().description);
 }
@@ -39,30 +48,38 @@ Stage::~Stage() {
         fail(u"the views complained: "_s + user_->complaints().join(u"; "_s));
 }
 
-void Stage::place(const QString& path, const QByteArray& bytes) const {
+QDir Stage::folderForPictures() {
+    const QStringList arguments = QGuiApplication::arguments();
+    if (arguments.size() == 2)
+        return {arguments[1]};
+    std::fprintf(stderr, "Usage: %s <folder for the pictures>\n", qPrintable(arguments.value(0)));
+    std::exit(2);
+}
+
+void Stage::place(const QString& path, const QByteArray& bytes) {
     if (auto done = replaceFile(home_.filePath(path), bytes); !done)
         fail(done.error().description);
 }
 
-QByteArray Stage::contentOf(const QString& path) const {
+QByteArray Stage::contentOf(const QString& path) {
     const auto bytes = readFile(home_.filePath(path));
     if (!bytes)
         fail(bytes.error().description);
     return *bytes;
 }
 
-void Stage::remove(const QString& path) const {
+void Stage::remove(const QString& path) {
     if (!QFile::remove(home_.filePath(path)))
         fail(path + u" could not be removed"_s);
 }
 
-void Stage::emptyHistory() const {
+void Stage::emptyHistory() {
     remove(u"Library/Messages/chat.db"_s);
     if (!HistoryWriter::open(messagesHistoryPath(home_.path())))
         fail(u"the history could not be made"_s);
 }
 
-void Stage::editSettings(const std::function<void(AppConfig&)>& edit) const {
+void Stage::editSettings(const std::function<void(AppConfig&)>& edit) {
     SupportFolder support(home_.filePath(u".local/share"_s));
     ConfigStore store(support);
     AppConfig config = store.load();
@@ -72,11 +89,15 @@ void Stage::editSettings(const std::function<void(AppConfig&)>& edit) const {
 
 void Stage::open() {
     platform_.emplace(makeRehearsalPlatform(world_.clock, home_.path()));
-    model_ = std::make_unique<AppModel>(Doors{*platform_->contacts, *platform_->scripts,
-                                              *platform_->accountPreferences, *platform_->desktop},
-                                        world_.handed(),
-                                        Places{platform_->home, platform_->applicationSupport});
-    user_ = std::make_unique<WindowDriver>(*model_, world_.clock);
+    model_ =
+        std::make_unique<AppModel>(Doors{*platform_->contacts, *platform_->scripts,
+                                         *platform_->accountPreferences, *platform_->desktop},
+                                   world_, Places{platform_->home, platform_->applicationSupport});
+    const auto passTime = [this] {
+        pace_ == Pace::asInLife ? QTest::qWait(10) : virtual_.clock.advance(0.1);
+    };
+    const Motion motion = pace_ == Pace::asInLife ? Motion::animated : Motion::still;
+    user_ = std::make_unique<WindowDriver>(*model_, passTime, motion);
     until(u"the start-up"_s, [this] { return model_->bootstrapped.value(); });
 }
 
@@ -98,22 +119,30 @@ void Stage::startDinner() {
     model_->setSelected(u"p06"_s, false);
     model_->requestRun();
     model_->confirmRun();
-    until(u"the run"_s, [this] { return user_->shows(u"Stop"_s); });
+    untilShown(u"Stop"_s);
 }
 
 void Stage::passTo(double place, double length) {
     const double now = std::fmod(world_.clock.now().seconds, length);
-    world_.clock.advance(std::fmod(place - now + length, length));
+    virtual_.clock.advance(std::fmod(place - now + length, length));
 }
 
-void Stage::until(const QString& what, const std::function<bool()>& condition) {
-    if (!user_->until(condition))
-        fail(what + u" did not come"_s);
+void Stage::expect(bool holds, const QString& what) {
+    if (!holds)
+        fail(what);
+}
+
+void Stage::until(const QString& what, const std::function<bool()>& condition, int seconds) {
+    expect(user_->until(condition, seconds),
+           what + u" did not come within %1 seconds"_s.arg(seconds));
+}
+
+void Stage::untilShown(const QString& name) {
+    until(name, [&] { return user_->shows(name); });
 }
 
 void Stage::click(const QString& name, QAccessible::Role role) {
-    if (!user_->click(name, role))
-        fail(u"there is no \"%1\" to click"_s.arg(name));
+    expect(user_->click(name, role), u"there is no \"%1\" to click"_s.arg(name));
 }
 
 QWindow* Stage::window(const QString& title) {
@@ -133,34 +162,47 @@ void Stage::closeWindow(const QString& title) {
 }
 
 void Stage::show(const QString& name, QWindow* other) {
+    if (pace_ == Pace::asInLife)
+        return expect(numberedPicture(name), u"the picture could not be written"_s);
     auto* window = other == nullptr ? &user_->window() : qobject_cast<QQuickWindow*>(other);
     const QSize menus(0, window->minimumHeight() - 580);
     const bool dense = window->devicePixelRatio() > 1;
-    for (const Appearance appearance : {Appearance::dark, Appearance::light}) {
-        setAppearance(appearance);
-        const QString look = appearance == Appearance::dark ? u"dark"_s : u"light"_s;
+    for (const QString& look : {u"dark"_s, u"light"_s}) {
+        setDark(look == u"dark");
         if (other != nullptr || dense) {
-            picture(look, name, *window);
+            picture(look + u'/' + name, *window);
             continue;
         }
         for (const QSize size : {QSize(960, 580), QSize(1240, 740)}) {
             window->resize(size + menus);
-            picture(look + u"-%1"_s.arg(size.width()), name, *window);
+            picture(look + u"-%1/"_s.arg(size.width()) + name, *window);
         }
     }
 }
 
-void Stage::picture(const QString& look, const QString& name, QQuickWindow& window) {
+void Stage::picture(const QString& name, QQuickWindow& window) {
     // Everything is laid out anew, and no time goes by.
     for (int turn = 0; turn < 5; ++turn)
         QCoreApplication::processEvents();
-    const QString path = folder_.filePath(look + u'/' + name + u".png"_s);
-    if (!folder_.mkpath(look) || !window.grabWindow().save(path))
+    const QString path = folder_.filePath(name + u".png"_s);
+    if (!QFileInfo(path).dir().mkpath(u"."_s) || !window.grabWindow().save(path))
         fail(u"the picture %1 could not be written"_s.arg(path));
 }
 
-void Stage::fail(const QString& sentence) const {
-    std::fputs(qPrintable(u"The gallery ended early: "_s + sentence + u".\n"_s), stderr);
+bool Stage::numberedPicture(const QString& name) {
+    const double still = world_.clock.uptime() + 0.4;
+    user_->until([&] { return world_.clock.uptime() >= still; });
+    const QString file = u"%1-%2.png"_s.arg(++pictures_, 2, 10, QChar(u'0')).arg(name);
+    return user_->window().grabWindow().save(folder_.filePath(file));
+}
+
+void Stage::fail(const QString& sentence) {
+    if (user_)
+        numberedPicture(u"failure"_s);
+    const QString program = QGuiApplication::applicationName();
+    std::fputs(qPrintable(program + u" ended early: "_s + sentence +
+                          u". See the last picture in "_s + folder_.path() + u'\n'),
+               stderr);
     std::exit(1);
 }
 

@@ -6,26 +6,34 @@
 #include <optional>
 
 #include "app/app_model.h"
+#include "core/system_surroundings.h"
 #include "platform/platform.h"
 #include "support/virtual_surroundings.h"
 #include "ui/window_driver.h"
 
 namespace velmora {
 
-/// Where one scene of the gallery plays: the sample home, in virtual time, and the real window over
-/// it. Ends the program with a sentence when something is not there, or the views complain.
+enum class Pace { asFastAsPossible, asInLife };
+
+/// Where a scene plays: the sample home and the real window over it. Ends the program with a
+/// sentence and a last picture when something is not there, or the views complain.
 class Stage {
   public:
-    /// Pictures go to folders under `folder`, named after how they look.
-    explicit Stage(const QDir& folder);
+    /// In virtual time, with a home that goes with the stage; pictures go to folders under `folder`
+    /// named after how they look. As in life, the home stays in `folder`, which is made anew, and
+    /// pictures are numbered.
+    explicit Stage(const QDir& folder, Pace pace = Pace::asFastAsPossible);
     ~Stage();
 
+    /// The folder that the program's one argument names; anything else ends the program.
+    [[nodiscard]] static QDir folderForPictures();
+
     /// Replaces a file of the home, as a path under it.
-    void place(const QString& path, const QByteArray& bytes) const;
-    [[nodiscard]] QByteArray contentOf(const QString& path) const;
-    void remove(const QString& path) const;
-    void emptyHistory() const;
-    void editSettings(const std::function<void(AppConfig&)>& edit) const;
+    void place(const QString& path, const QByteArray& bytes);
+    [[nodiscard]] QByteArray contentOf(const QString& path);
+    void remove(const QString& path);
+    void emptyHistory();
+    void editSettings(const std::function<void(AppConfig&)>& edit);
 
     /// Opens Velmora and waits for its start-up; the calls below need it.
     void open();
@@ -36,25 +44,40 @@ class Stage {
 
     /// Lets time go by to the next moment that is `place` seconds into a loop of `length`.
     void passTo(double place, double length);
-    void until(const QString& what, const std::function<bool()>& condition);
+    void expect(bool holds, const QString& what);
+    /// Fails when it takes more than `seconds` of the computer's own time.
+    void until(const QString& what, const std::function<bool()>& condition, int seconds = 10);
+    void untilShown(const QString& name);
     void click(const QString& name, QAccessible::Role role = QAccessible::NoRole);
 
     /// The open window of that title, other than the main window.
     [[nodiscard]] QWindow* window(const QString& title);
     void closeWindow(const QString& title);
-    /// Takes the pictures of what the main window shows, or another, in light and dark.
+    /// Takes pictures of what the main window shows, or another: in light and dark, and as in life,
+    /// the one on the screen.
     void show(const QString& name, QWindow* other = nullptr);
 
+    [[nodiscard]] const QDir& home() const { return home_; }
     [[nodiscard]] AppModel& model() { return *model_; }
     [[nodiscard]] WindowDriver& user() { return *user_; }
 
   private:
-    [[noreturn]] void fail(const QString& sentence) const;
-    void picture(const QString& look, const QString& name, QQuickWindow& window);
+    [[noreturn]] void fail(const QString& sentence);
+    void picture(const QString& name, QQuickWindow& window);
+    /// Lets highlights and sheets finish moving, takes a picture and returns whether it was
+    /// written.
+    bool numberedPicture(const QString& name);
 
     QDir folder_;
-    QTemporaryDir home_;
-    VirtualSurroundings world_;
+    Pace pace_;
+    int pictures_ = 0;
+    QTemporaryDir temporary_;
+    QDir home_;
+    VirtualSurroundings virtual_;
+    SystemClock clock_;
+    SystemRandomSource random_;
+    ThreadBackground background_;
+    Surroundings world_;
     std::optional<Platform> platform_;
     std::unique_ptr<AppModel> model_;
     std::unique_ptr<WindowDriver> user_;

@@ -16,31 +16,26 @@ QStringList& heard() {
 }
 
 void hear(QtMsgType type, const QMessageLogContext&, const QString& message) {
-    if (type == QtFatalMsg) {
+    if (type == QtFatalMsg)
         std::fputs(qPrintable(message + QLatin1Char('\n')), stderr);
-    }
     // The window system without a screen has no windows to raise or to hint at.
     if (type != QtDebugMsg && type != QtInfoMsg &&
-        !message.startsWith(QLatin1String("This plugin does not support"))) {
+        !message.startsWith(QLatin1String("This plugin does not support")))
         heard().append(message);
-    }
 }
 
 QAccessibleInterface* findBelow(QAccessibleInterface* root, const QString& name,
                                 QAccessible::Role role) {
-    if (root == nullptr || root->state().invisible) {
+    if (root == nullptr || root->state().invisible)
         return nullptr;
-    }
     const bool fits =
         role == QAccessible::NoRole ? root->role() != QAccessible::Window : root->role() == role;
-    if (fits && root->text(QAccessible::Name) == name) {
+    if (fits && root->text(QAccessible::Name) == name)
         return root;
-    }
     // The last child lies on top.
     for (int child = root->childCount() - 1; child >= 0; --child) {
-        if (auto* found = findBelow(root->child(child), name, role)) {
+        if (auto* found = findBelow(root->child(child), name, role))
             return found;
-        }
     }
     return nullptr;
 }
@@ -109,11 +104,10 @@ void WindowDriver::settle() {
     }
 }
 
-bool WindowDriver::until(const std::function<bool()>& condition) {
-    const QDeadlineTimer deadline(10000);
-    while (!condition() && !deadline.hasExpired()) {
+bool WindowDriver::until(const std::function<bool()>& condition, int seconds) {
+    const QDeadlineTimer deadline(std::chrono::seconds{seconds});
+    while (!condition() && !deadline.hasExpired())
         settle();
-    }
     return condition();
 }
 
@@ -151,9 +145,8 @@ QPoint WindowDriver::place(const QString& name, QAccessible::Role role, QWindow*
 
 bool WindowDriver::click(const QString& name, QAccessible::Role role, QWindow* in) {
     const QPoint at = place(name, role, in);
-    if (!at.isNull()) {
+    if (!at.isNull())
         clickAt(at, in);
-    }
     return !at.isNull();
 }
 
@@ -181,18 +174,16 @@ QString WindowDriver::focused() const {
     auto* item = qobject_cast<QQuickItem*>(QGuiApplication::focusObject());
     for (; item != nullptr; item = item->parentItem()) {
         QAccessibleInterface* there = QAccessible::queryAccessibleInterface(item);
-        if (there != nullptr && !there->text(QAccessible::Name).isEmpty()) {
+        if (there != nullptr && !there->text(QAccessible::Name).isEmpty())
             return there->text(QAccessible::Name);
-        }
     }
     return {};
 }
 
 QWindow* WindowDriver::windowTitled(const QString& title) {
     for (QWindow* each : QGuiApplication::allWindows()) {
-        if (each->isVisible() && each->title() == title) {
+        if (each->isVisible() && each->title() == title)
             return each;
-        }
     }
     return nullptr;
 }

@@ -26,8 +26,9 @@ class WindowDriver {
 
     /// Lets everything happen that is due.
     void settle();
-    /// Lets things happen until `condition` holds; false when it does not come to that.
-    bool until(const std::function<bool()>& condition);
+    /// Lets things happen until `condition` holds; false when it does not in `seconds` of the
+    /// computer's own time.
+    bool until(const std::function<bool()>& condition, int seconds = 10);
 
     /// Whether something of that name is on the screen, in the main window or `in` another.
     [[nodiscard]] bool shows(const QString& name, QWindow* in = nullptr);
