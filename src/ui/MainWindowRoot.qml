@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls.Basic
+import QtQml
 import Velmora
 
 /// The main window: menus, content, sheets and the alert; and the windows that belong to it.
@@ -52,37 +53,40 @@ ApplicationWindow {
     }
 
     // The other windows are made when they are first wanted.
-    component SecondWindow: Loader {
-        function present() {
-            active = true;
-            const window = item as Window;
-            window.show();
-            window.raise();
-            window.requestActivate();
-        }
-
-        active: false
+    function present(maker: Instantiator) {
+        maker.active = true;
+        const window = maker.object as Window;
+        window.show();
+        window.raise();
+        window.requestActivate();
     }
-    SecondWindow {
+    Instantiator {
         id: settings
-        sourceComponent: SettingsWindow {
+        active: false
+
+        SettingsWindow {
+            transientParent: root
             settings: root.presentation.settings
         }
     }
-    SecondWindow {
+    Instantiator {
         id: about
-        sourceComponent: AboutWindow {}
+        active: false
+
+        AboutWindow {
+            transientParent: root
+        }
     }
     Connections {
         target: root.presentation.window
         function onSettingsRequested() {
-            settings.present();
+            root.present(settings);
         }
     }
     Connections {
         target: root.presentation.menus
         function onAboutRequested() {
-            about.present();
+            root.present(about);
         }
     }
 }
