@@ -117,6 +117,7 @@ TEST_F(Run, RequestsNeedTheTermsAndAModel) {
     request();
     EXPECT_FALSE(model->confirmingRun);
     model->acceptTerms();
+    EXPECT_EQ(stored().termsAcceptedAt, world.clock.now());
     model->requestRun();
     EXPECT_FALSE(model->confirmingRun);
     model->testPhone = u"212 555 0101"_s;

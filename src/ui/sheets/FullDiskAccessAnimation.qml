@@ -26,8 +26,6 @@ Item {
     Rectangle {
         id: pane
         anchors.fill: parent
-        opacity: timeline.opacity
-        layer.enabled: opacity < 1
         radius: Theme.panelRadius
         color: Theme.windowBackground
         border.color: Theme.controlBorder
@@ -127,5 +125,11 @@ Item {
             scale: timeline.pointerScale
             transformOrigin: Item.TopLeft
         }
+    }
+    // The whole drawing fades as one, without a layer, whose corners the software renderer paints.
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.sheetBackground
+        opacity: 1 - timeline.opacity
     }
 }
