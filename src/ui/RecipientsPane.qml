@@ -21,7 +21,7 @@ ColumnLayout {
     EmptyState {
         Layout.fillWidth: true
         Layout.fillHeight: true
-        visible: !pane.model.showsPeople
+        visible: pane.model.showsNobody
         icon: pane.model.emptyIcon
         title: pane.model.emptyTitle
         message: pane.model.emptyMessage
@@ -29,7 +29,7 @@ ColumnLayout {
     RecipientsList {
         Layout.fillWidth: true
         Layout.fillHeight: true
-        visible: pane.model.showsPeople
+        visible: !pane.model.showsNobody
         recipients: pane.model
     }
 }

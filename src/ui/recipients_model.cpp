@@ -25,6 +25,7 @@ RecipientsModel::RecipientsModel(AppModel& model) : model_(model) {
     connect(&model_, &AppModel::configChanged, this, &RecipientsModel::followConfig);
     connect(&model_, &AppModel::editingNoteIDChanged, this, &RecipientsModel::followEditing);
     connect(&model_.runner(), &Runner::stateChanged, this, &RecipientsModel::followRun);
+    connect(&model_, &AppModel::bootstrappedChanged, this, &RecipientsModel::contentChanged);
     connect(&model_, &AppModel::recipientTextsChanged, this,
             [this] { announceAll({previewRole, offersNoteRole}); });
     connect(&model_, &AppModel::recipientTextChanged, this, [this](qsizetype index) {
@@ -166,6 +167,10 @@ QString RecipientsModel::clearTitle() const {
 
 bool RecipientsModel::showsPeople() const {
     return !rows_.empty();
+}
+
+bool RecipientsModel::showsNobody() const {
+    return rows_.empty() && model_.bootstrapped;
 }
 
 QString RecipientsModel::emptyIcon() const {

@@ -23,6 +23,7 @@ class RecipientsModel final : public QAbstractListModel {
     Q_PROPERTY(QString selectTitle READ selectTitle NOTIFY filterChanged)
     Q_PROPERTY(QString clearTitle READ clearTitle NOTIFY filterChanged)
     Q_PROPERTY(bool showsPeople READ showsPeople NOTIFY contentChanged)
+    Q_PROPERTY(bool showsNobody READ showsNobody NOTIFY contentChanged)
     Q_PROPERTY(QString emptyIcon READ emptyIcon NOTIFY contentChanged)
     Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY contentChanged)
     Q_PROPERTY(QString emptyMessage READ emptyMessage NOTIFY contentChanged)
@@ -73,6 +74,8 @@ class RecipientsModel final : public QAbstractListModel {
 
     /// Whether there are rows to show; else the empty state below.
     [[nodiscard]] bool showsPeople() const;
+    /// Whether there is nobody to show and the list has been read, so that it can be said.
+    [[nodiscard]] bool showsNobody() const;
     [[nodiscard]] QString emptyIcon() const;
     [[nodiscard]] QString emptyTitle() const;
     [[nodiscard]] QString emptyMessage() const;
