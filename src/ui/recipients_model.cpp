@@ -165,10 +165,6 @@ QString RecipientsModel::clearTitle() const {
     return isFiltered() ? u"Clear Shown"_s : u"Clear All"_s;
 }
 
-bool RecipientsModel::showsPeople() const {
-    return !rows_.empty();
-}
-
 bool RecipientsModel::showsNobody() const {
     return rows_.empty() && model_.bootstrapped;
 }

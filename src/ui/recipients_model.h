@@ -22,7 +22,6 @@ class RecipientsModel final : public QAbstractListModel {
     Q_PROPERTY(QString searchText READ searchText NOTIFY filterChanged)
     Q_PROPERTY(QString selectTitle READ selectTitle NOTIFY filterChanged)
     Q_PROPERTY(QString clearTitle READ clearTitle NOTIFY filterChanged)
-    Q_PROPERTY(bool showsPeople READ showsPeople NOTIFY contentChanged)
     Q_PROPERTY(bool showsNobody READ showsNobody NOTIFY contentChanged)
     Q_PROPERTY(QString emptyIcon READ emptyIcon NOTIFY contentChanged)
     Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY contentChanged)
@@ -73,7 +72,6 @@ class RecipientsModel final : public QAbstractListModel {
     [[nodiscard]] QString clearTitle() const;
 
     /// Whether there are rows to show; else the empty state below.
-    [[nodiscard]] bool showsPeople() const;
     /// Whether there is nobody to show and the list has been read, so that it can be said.
     [[nodiscard]] bool showsNobody() const;
     [[nodiscard]] QString emptyIcon() const;
