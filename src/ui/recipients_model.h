@@ -71,8 +71,7 @@ class RecipientsModel final : public QAbstractListModel {
     [[nodiscard]] QString selectTitle() const;
     [[nodiscard]] QString clearTitle() const;
 
-    /// Whether there are rows to show; else the empty state below.
-    /// Whether there is nobody to show and the list has been read, so that it can be said.
+    /// Whether the empty state below is shown: the list has been read, and nobody is left to show.
     [[nodiscard]] bool showsNobody() const;
     [[nodiscard]] QString emptyIcon() const;
     [[nodiscard]] QString emptyTitle() const;
