@@ -111,10 +111,11 @@ void SendLog::rewrite(const QString& batch, const std::vector<LogEntry>& entries
 std::vector<LogEntry> SendLog::load(const QString& batch) {
     const QString text = logText(logFile(batch));
     std::vector<LogEntry> entries;
+    const LogEntry none;
     entries.reserve(static_cast<size_t>(text.count(u'\n')));
     readEntryRows(text, [&](const CSVReader& row) {
         const auto time = parseLogTime(row.field(Column::time));
-        entries.push_back(entryOf(row, entries.empty() ? LogEntry() : entries.back()));
+        entries.push_back(entryOf(row, entries.empty() ? none : entries.back()));
         entries.back().time = time ? *time : clock_.now();
     });
     return entries;
