@@ -31,6 +31,7 @@ ListView {
 
     model: recipients
     clip: true
+    pixelAligned: true
     reuseItems: true
     cacheBuffer: 200
     topMargin: 6
@@ -42,6 +43,13 @@ ListView {
     Accessible.role: Accessible.List
     Accessible.name: "People"
     T.ScrollBar.vertical: SlimScrollBar {}
+
+    RedrawnArea {
+        parent: list
+        anchors.fill: parent
+        z: 1
+        position: list.contentY
+    }
 
     Keys.onUpPressed: goTo(currentIndex - 1)
     Keys.onDownPressed: goTo(currentIndex + 1)

@@ -17,6 +17,9 @@ namespace velmora {
 namespace {
 
 constexpr int bodyPixels = 13;
+/// Milliseconds that the toolkit waits for more changes before it draws, where the system does not
+/// tell it when to; it would wait for 5.
+constexpr auto updatePause = "0";
 
 /// The views read the family from the application's font.
 void useFont(const QString& family) {
@@ -33,6 +36,9 @@ MainWindow::MainWindow(AppModel& model, std::unique_ptr<NativeLook> look, Motion
     : presentation_(model) {
     if (!look) {
         look = std::make_unique<DrawnLook>();
+    }
+    if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME")) {
+        qputenv("QT_QPA_UPDATE_IDLE_TIME", updatePause);
     }
     qml_register_types_Velmora();
     QQuickStyle::setStyle(QStringLiteral("Basic"));
