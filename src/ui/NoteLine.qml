@@ -8,6 +8,7 @@ FocusScope {
 
     property string note
     property color linkColor
+    property color placeholderColor
     property bool showsField: false
     property bool showsOffer: false
     property bool fieldEnabled: true
@@ -51,6 +52,7 @@ FocusScope {
             activeFocusOnTab: false
             small: true
             placeholder: "Personal note"
+            placeholderTextColor: line.placeholderColor
             text: line.note
             enabled: line.fieldEnabled
             onActiveFocusChanged: if (activeFocus) line.entered()

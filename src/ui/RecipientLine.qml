@@ -16,6 +16,8 @@ Column {
 
     width: Math.min(maximumWidth, Math.max(150, implicitWidth))
     spacing: 3
+    // The number's line of type and the larger name's stand on one height.
+    topPadding: 1
 
     FixedDigitsText {
         anchors.right: parent.right

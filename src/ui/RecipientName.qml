@@ -1,8 +1,9 @@
 import QtQuick
 import Velmora
 
-/// Who a person is: the name, the company beside it, and whether they have been sent the text.
-Flow {
+/// Who a person is: the name, the company beside it, and whether they have been sent the text. What
+/// the line has no room for is taken from the company first, and never from the last.
+Item {
     id: line
 
     property string name
@@ -10,11 +11,14 @@ Flow {
     property string sentText
     property string shade
 
-    spacing: 6
+    readonly property int gap: 6
+    readonly property real room: width - (sent.visible ? sent.width + gap : 0)
+
+    implicitHeight: nameText.implicitHeight
 
     BodyText {
         id: nameText
-        width: Math.min(implicitWidth, parent.width)
+        width: Math.min(implicitWidth, line.room)
         text: line.name
         font.pixelSize: Theme.headline
         font.weight: Font.DemiBold
@@ -22,15 +26,20 @@ Flow {
         elide: Text.ElideRight
     }
     BodyText {
-        width: Math.min(implicitWidth, parent.width)
-        visible: text.length > 0
+        id: companyText
+        x: nameText.width + line.gap
+        width: Math.max(0, Math.min(implicitWidth, line.room - x))
+        visible: text.length > 0 && line.room - x > 2 * Theme.body
         text: line.company
         color: Theme["secondary" + line.shade]
         wrapMode: Text.NoWrap
         elide: Text.ElideRight
     }
     LabelWithSymbol {
-        height: nameText.height
+        id: sent
+        x: (companyText.visible ? companyText.x + companyText.width : nameText.width) + line.gap
+        y: (nameText.height - height) / 2
+        width: implicitWidth
         visible: text.length > 0
         text: line.sentText
         symbol: "checkmark.seal.fill"

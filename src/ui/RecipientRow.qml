@@ -38,6 +38,8 @@ FocusScope {
 
     /// The row becomes the current one.
     signal activated
+    /// The keyboard is in the row's note, which must be seen whole.
+    signal written
     /// The row gives the keyboard back to its list.
     signal taken
 
@@ -57,6 +59,7 @@ FocusScope {
     implicitHeight: Math.max(words.height, line.height, box.height + 1) + 10
                     + content.headingHeight
     onCurrentChanged: if (!current) leave()
+    onHeightChanged: if (noteLine.activeFocus) written()
     // The list hides a spare row from the eye alone, not from a screen reader.
     ListView.onPooled: {
         leave();
@@ -146,7 +149,7 @@ FocusScope {
                 text: row.issueText
                 symbol: row.issueSymbol
                 textColor: Theme[row.issueTextColor + row.shade]
-                symbolColor: Theme[row.issueSymbolColor]
+                symbolColor: Theme[row.issueSymbolColor + row.shade]
                 fontSize: Theme.callout
             }
             SelectableText {
@@ -163,6 +166,7 @@ FocusScope {
                 width: parent.width
                 visible: row.showsNote || row.offersNote
                 linkColor: Theme["accentText" + row.shade]
+                placeholderColor: Theme["tertiary" + row.shade]
                 note: row.note
                 showsField: row.showsNote
                 showsOffer: row.offersNote
@@ -170,6 +174,7 @@ FocusScope {
                 onEntered: {
                     row.recipients.editNote(row.index);
                     row.activated();
+                    row.written();
                 }
                 onEdited: text => row.recipients.setNote(row.index, text)
                 onFinished: row.take()

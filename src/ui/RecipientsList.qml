@@ -82,6 +82,7 @@ ListView {
         width: list.width
         recipients: list.recipients
         onActivated: list.currentIndex = index
+        onWritten: Qt.callLater(list.positionViewAtIndex, index, ListView.Contain)
         onTaken: list.forceActiveFocus(Qt.OtherFocusReason)
     }
 }

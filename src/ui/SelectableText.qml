@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Velmora
 
@@ -13,48 +14,63 @@ FocusScope {
     /// The pointer has put the keyboard here.
     signal entered
 
+    readonly property TextEdit selection: maker.count > 0 ? maker.itemAt(0) as TextEdit : null
+    readonly property bool selects: selection !== null && selection.selectedText.length > 0
+
     implicitHeight: shown.implicitHeight
 
+    HoverHandler {
+        id: pointer
+    }
     BodyText {
         id: shown
         width: parent.width
         maximumLineCount: passage.lines
         elide: Text.ElideRight
-        opacity: selection.selectedText.length > 0 ? 0 : 1
+        // To the leading edge of the interface, whatever language the text is in.
+        horizontalAlignment: Text.AlignLeft
+        opacity: passage.selects ? 0 : 1
         text: passage.text
         color: passage.color
         font.pixelSize: passage.fontSize
     }
-    // Has the mouse all the time, and is seen while something is selected.
-    TextEdit {
-        id: selection
-        width: parent.width
-        height: shown.height
-        clip: true
-        opacity: selectedText.length > 0 ? 1 : 0
-        readOnly: true
-        selectByMouse: true
-        textFormat: TextEdit.PlainText
-        wrapMode: TextEdit.Wrap
-        text: passage.text
-        color: passage.color
-        selectionColor: Theme.selection
-        selectedTextColor: Theme.primary
-        font: shown.font
-        focus: true
-        onActiveFocusChanged: {
-            if (activeFocus)
-                passage.entered();
-            else if (!menu.shown)
-                deselect();
-        }
-        Component.onCompleted: TextCommands.passShortcuts(selection)
-        Keys.onMenuPressed: menu.openAtCaret(cursorRectangle)
-        Accessible.ignored: true
+    // Made when the pointer comes, for it lays the text out a second time; it has the mouse then, and
+    // is seen while something is selected.
+    Repeater {
+        id: maker
+        model: pointer.hovered || passage.activeFocus ? 1 : 0
 
-        TextMenu {
-            id: menu
-            field: selection
+        TextEdit {
+            id: selection
+            width: passage.width
+            height: shown.height
+            clip: true
+            opacity: selectedText.length > 0 ? 1 : 0
+            readOnly: true
+            selectByMouse: true
+            textFormat: TextEdit.PlainText
+            wrapMode: TextEdit.Wrap
+            horizontalAlignment: TextEdit.AlignLeft
+            text: passage.text
+            color: passage.color
+            selectionColor: Theme.selection
+            selectedTextColor: Theme.primary
+            font: shown.font
+            focus: true
+            onActiveFocusChanged: {
+                if (activeFocus)
+                    passage.entered();
+                else if (!menu.shown)
+                    deselect();
+            }
+            Component.onCompleted: TextCommands.passShortcuts(selection)
+            Keys.onMenuPressed: menu.openAtCaret(cursorRectangle)
+            Accessible.ignored: true
+
+            TextMenu {
+                id: menu
+                field: selection
+            }
         }
     }
 }

@@ -64,13 +64,13 @@ Item {
         Accessible.ignored: true
     }
     TapHandler {
-        acceptedModifiers: Qt.NoModifier
+        id: tap
         gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: row.picked()
-    }
-    TapHandler {
-        acceptedModifiers: Qt.ControlModifier
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: row.current ? row.cleared() : row.picked()
+        onTapped: {
+            if (row.current && (tap.point.modifiers & Qt.ControlModifier))
+                row.cleared();
+            else
+                row.picked();
+        }
     }
 }

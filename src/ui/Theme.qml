@@ -31,6 +31,7 @@ QtObject {
     readonly property color secondaryFaint: dark ? "#d2d2d7" : "#36363a"
     readonly property color tertiaryFaint: secondaryFaint
     readonly property color accentTextFaint: dark ? "#abd3ff" : "#04317a"
+    readonly property color orangeFaint: dark ? orange : "#964800"
     readonly property color greenFaint: dark ? "#6fe98a" : "#0b3f1a"
 
     // Surfaces.
@@ -46,7 +47,7 @@ QtObject {
     readonly property color controlBorder: dark ? "#5b5b60" : "#cfcfd4"
     readonly property color controlEdge: dark ? "#232325" : "#b9b9bf"
     readonly property color sheetEdge: dark ? "#4a4a4e" : "#cfcfd4"
-    readonly property color boxEdge: dark ? "#a8a8ae" : "#a4a4aa"
+    readonly property color boxEdge: dark ? "#a8a8ae" : "#5f5f64"
     readonly property color segment: dark ? "#636369" : "#ffffff"
     readonly property color segmentEdge: dark ? "#636369" : "#d9d9de"
     readonly property color groove: dark ? "#33ffffff" : "#1f000000"

@@ -61,6 +61,9 @@ void RecipientsModel::followFilter() {
 
 void RecipientsModel::followRows() {
     const std::vector<QString> wanted = visibleKeys();
+    // The view may hear of these rows together with the next ones: where it stood means nothing then.
+    if (wanted.empty())
+        setTopRow(-1);
     for (const RowChange& step : rowChanges(rows_, wanted, topRow_)) {
         const int first = static_cast<int>(step.first);
         const int last = static_cast<int>(step.first + step.count - 1);
@@ -196,11 +199,13 @@ void RecipientsModel::setTopRow(int row) {
 // What the user does.
 
 void RecipientsModel::search(const QString& text) {
-    model_.searchText = text;
+    if (enabled())
+        model_.searchText = text;
 }
 
 void RecipientsModel::showSelectedOnly(bool only) {
-    model_.selectedOnly = only;
+    if (enabled())
+        model_.selectedOnly = only;
 }
 
 void RecipientsModel::selectShown() {

@@ -80,11 +80,12 @@ class RecipientsModel final : public QAbstractListModel {
     /// Another number each time when other people may be shown.
     [[nodiscard]] int revision() const { return revision_; }
 
-    /// The view's uppermost row, told by the view: when nearly everything changes, the rows around
-    /// it stay. -1 when there is none.
+    /// The view's uppermost row when it last moved, told by the view: when nearly everything
+    /// changes, the rows around it stay. -1 at the beginning of the list, and when nobody is left.
     [[nodiscard]] int topRow() const { return topRow_; }
     void setTopRow(int row);
 
+    /// These four do nothing during a run.
     Q_INVOKABLE void search(const QString& text);
     Q_INVOKABLE void showSelectedOnly(bool only);
     Q_INVOKABLE void selectShown();

@@ -9,7 +9,7 @@ namespace velmora {
 namespace {
 
 constexpr qsizetype mostSteps = 200;
-constexpr qsizetype keptAround = 40;  // more than a window shows
+constexpr qsizetype keptAround = 80;  // more than a tall display shows
 
 // Which rows stay, in each of the two lists.
 struct Staying {

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QPalette>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -11,6 +12,7 @@
 #include <vector>
 
 #include "ui/drawn_look.h"
+#include "ui/fixed_digits.h"
 #include "ui/full_disk_access_timeline.h"
 #include "ui/symbol_image_provider.h"
 
@@ -155,6 +157,24 @@ TEST(Theme, TextStandsOutOnEverything) {
             expectContrast("overAccent", color(ground), 1);
     }
     QGuiApplication::setPalette(before);
+}
+
+// Catches a number that changes its width while it counts, and one that is not drawn.
+TEST(FixedDigits, TakeTheSameWidth) {
+    FixedDigits narrow;
+    FixedDigits wide;
+    narrow.setText(QStringLiteral("1:11 AM"));
+    wide.setText(QStringLiteral("8:40 AM"));
+    EXPECT_GT(narrow.implicitWidth(), 0);
+    EXPECT_EQ(narrow.implicitWidth(), wide.implicitWidth());
+    wide.setPixelSize(wide.pixelSize() * 2);
+    EXPECT_GT(wide.implicitWidth(), narrow.implicitWidth() * 1.5);
+    QImage image(200, 50, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    wide.setColor(tint);
+    wide.paint(&painter);
+    EXPECT_GT(coverage(image), 50);
 }
 
 // Catches a drawing that jumps in or out, a pointer that does not end on the switch or presses it

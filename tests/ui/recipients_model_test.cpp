@@ -145,6 +145,9 @@ TEST_F(Recipients, aRunLocksTheRowsAndMarksWhoWasSent) {
     changed();
     model->startRun();
     EXPECT_EQ(changed(), QStringList{u"0-2: checkable offersNote"_s});
+    list->search(u"bob"_s);
+    list->showSelectedOnly(true);
+    EXPECT_EQ(list->rowCount(), 3);
     ASSERT_TRUE(world.clock.runUntilIdle());
     model->loadList();
     EXPECT_EQ(text(0, Role::sentTextRole), u"Sent"_s);

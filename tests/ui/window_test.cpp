@@ -304,6 +304,24 @@ TEST_F(WindowTest, SearchLimitsWhatIsSelected) {
     EXPECT_TRUE(user.until([&] { return user.shows(u"Nobody selected yet"_s); }));
 }
 
+// Catches a list that opens where the one before it stood, its first people out of sight.
+TEST_F(WindowTest, AnotherListOpensAtItsBeginning) {
+    std::vector<QByteArray> people;
+    for (int number = 100; number < 140; ++number) {
+        const QString digits = QString::number(number);
+        people.push_back(person(digits, u"P"_s + digits, {}, u"212 555 0"_s + digits));
+    }
+    friends(people);
+    withFriends();
+    WindowDriver& user = show();
+    user.click(u"P100"_s);
+    user.key(Qt::Key_PageDown);
+    EXPECT_LT(user.area(u"P100"_s).top(), user.area(u"People"_s, QAccessible::List).top());
+    EXPECT_TRUE(user.click(u"All Contacts, 40"_s));
+    user.settle();
+    EXPECT_GE(user.area(u"P100"_s).top(), user.area(u"People"_s, QAccessible::List).top());
+}
+
 // Catches a note that loses the keyboard or its row while it is typed, and keys that act on
 // another person than the one just clicked.
 TEST_F(WindowTest, NotesAndKeysStayWithTheirPerson) {

@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Layouts
 import Velmora
 
 /// A symbol and the text that it stands for, side by side.
-RowLayout {
+Item {
     id: label
 
     property string text
@@ -11,14 +10,15 @@ RowLayout {
     property color textColor: Theme.primary
     property color symbolColor: textColor
     property int fontSize: Theme.body
+    property int spacing: 5
 
-    spacing: 5
+    implicitWidth: Math.ceil(words.x + words.implicitWidth)
+    implicitHeight: words.implicitHeight
     Accessible.role: Accessible.StaticText
     Accessible.name: text
 
     SymbolIcon {
-        Layout.alignment: Qt.AlignTop
-        Layout.topMargin: Math.round((words.firstLineHeight - height) / 2)
+        y: Math.round((words.firstLineHeight - height) / 2)
         name: label.symbol
         size: label.fontSize + 2
         color: label.symbolColor
@@ -26,7 +26,8 @@ RowLayout {
     BodyText {
         id: words
         readonly property real firstLineHeight: lineCount > 0 ? contentHeight / lineCount : 0
-        Layout.fillWidth: true
+        x: label.fontSize + 2 + label.spacing
+        width: label.width - x
         text: label.text
         color: label.textColor
         font.pixelSize: label.fontSize

@@ -15,7 +15,7 @@ Item {
     signal chosen(int index)
 
     implicitWidth: 64 * options.length
-    implicitHeight: small ? Theme.smallControlHeight : Theme.controlHeight
+    implicitHeight: small ? Theme.smallControlHeight + 2 : Theme.controlHeight
     activeFocusOnTab: true
     opacity: enabled ? 1 : 0.45
     Accessible.role: Accessible.Grouping
@@ -84,7 +84,7 @@ Item {
                 Accessible.role: Accessible.RadioButton
                 Accessible.checkable: true
                 Accessible.checked: choice.currentIndex === index
-                Accessible.onPressAction: choice.chosen(segment.index)
+                Accessible.onPressAction: if (enabled) choice.chosen(segment.index)
 
                 TapHandler { onTapped: choice.chosen(segment.index) }
             }

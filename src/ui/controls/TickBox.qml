@@ -9,19 +9,22 @@ Item {
     property bool checked: false
     property string accessibleName
 
+    /// Who is in a run stays to be seen while nobody can be added.
+    readonly property bool locked: checked && !enabled
+
     signal toggled(bool checked)
 
     implicitWidth: 16
     implicitHeight: 16
     activeFocusOnTab: true
-    opacity: enabled ? 1 : 0.45
+    opacity: enabled || locked ? 1 : 0.45
     Accessible.role: Accessible.CheckBox
     Accessible.name: accessibleName
     Accessible.description: enabled ? "" : Theme.unavailable
     Accessible.checkable: true
     Accessible.checked: checked
-    Accessible.onPressAction: box.toggled(!box.checked)
-    Accessible.onToggleAction: box.toggled(!box.checked)
+    Accessible.onPressAction: if (enabled) box.toggled(!box.checked)
+    Accessible.onToggleAction: if (enabled) box.toggled(!box.checked)
     Keys.onSpacePressed: event => {
         if (!event.isAutoRepeat)
             box.toggled(!box.checked);
@@ -42,18 +45,19 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: 4
-        color: box.checked ? (tap.pressed ? Theme.accentPressed : Theme.accent)
+        color: box.locked ? Theme.quaternary
+               : box.checked ? (tap.pressed ? Theme.accentPressed : Theme.accent)
                            : (tap.pressed ? Theme.controlPressed
                                           : hover.hovered ? Theme.controlHover
                                                         : Theme.controlBackground)
-        border.width: box.checked ? 0 : 1
+        border.width: box.checked && !box.locked ? 0 : 1
         border.color: Theme.boxEdge
 
         SymbolIcon {
             anchors.centerIn: parent
             name: "checkmark"
             size: 12
-            color: Theme.overAccent
+            color: box.locked ? Theme.secondary : Theme.overAccent
             visible: box.checked
         }
         FocusRing {
