@@ -2,6 +2,7 @@
 #include <limits>
 #include <nlohmann/json.hpp>
 #include <string>
+#include <vector>
 
 #include "core/config_store.h"
 
@@ -49,8 +50,9 @@ bool read(const json& value, qint64& field) {
         return false;
     if (value.is_number_float()) {
         const double number = value.get<double>();
+        // An integer below the least one comes as the real number of just that limit.
         constexpr double limit = 9223372036854775808.0;
-        if (number != std::floor(number) || number < -limit || number >= limit)
+        if (number != std::floor(number) || number <= -limit || number >= limit)
             return false;
     }
     field = value.get<qint64>();
@@ -122,28 +124,84 @@ bool isKnownKey(const std::string& name) {
     return !visitFields(config, [&](const char* key, const auto&) { return name != key; });
 }
 
-// Builds nothing of unknown keys and of what is nested deeper than any field, so that a hostile
-// file cannot fill the memory. Nothing when a known field is nested too deep.
-std::optional<json> parsed(const QByteArray& text) {
-    constexpr int deepestList = 2;
-    bool wanted = true;
-    bool isTooDeep = false;
-    const auto keep = [&](int depth, json::parse_event_t event, json& value) {
-        if (event == json::parse_event_t::key && depth == 1) {
-            wanted = isKnownKey(value.get_ref<const std::string&>());
-            return wanted;
-        }
-        const bool begins =
-            event == json::parse_event_t::array_start || event == json::parse_event_t::object_start;
-        if (!begins || depth <= deepestList)
-            return true;
-        isTooDeep |= wanted;
+// Builds what the fields can hold, an object of values and of objects of values and lists, and
+// nothing of unknown keys. Reading ends at a container that no field has in that place, so that a
+// hostile file neither fills the memory with its nesting nor is gone over more than once.
+class SettingsBuilder final : public nlohmann::json_sax<json> {
+  public:
+    [[nodiscard]] json take() { return std::move(settings_); }
+
+    bool null() override { return add({}); }
+    bool boolean(bool value) override { return add(value); }
+    bool number_integer(number_integer_t value) override { return add(value); }
+    bool number_unsigned(number_unsigned_t value) override { return add(value); }
+    bool number_float(number_float_t value, const string_t& /*text*/) override {
+        return add(value);
+    }
+    bool string(string_t& value) override { return add(std::move(value)); }
+    bool binary(binary_t& /*value*/) override { return false; }
+
+    bool key(string_t& name) override {
+        if (ignored_ == 0 && open_.size() == 1)
+            isWanted_ = isKnownKey(name);
+        if (isWanted_)
+            place_ = &(*open_.back())[name];
+        return true;
+    }
+
+    bool start_object(size_t /*count*/) override { return open(json::object(), open_.size() < 2); }
+    bool end_object() override { return close(); }
+    bool start_array(size_t /*count*/) override {
+        return open(json::array(), open_.size() == 2 && open_.back()->is_object());
+    }
+    bool end_array() override { return close(); }
+
+    bool parse_error(size_t /*position*/, const std::string& /*token*/,
+                     const json::exception& /*error*/) override {
         return false;
-    };
-    json object = json::parse(text.begin(), text.end(), keep, false);
-    if (!object.is_object() || isTooDeep)
+    }
+
+  private:
+    bool add(json value) {
+        if (!isWanted_)
+            return true;
+        if (open_.empty())
+            return false;
+        if (open_.back()->is_array())
+            open_.back()->push_back(std::move(value));
+        else
+            *place_ = std::move(value);
+        return true;
+    }
+
+    bool open(json container, bool isHeld) {
+        if (!isWanted_)
+            ++ignored_;
+        else if (isHeld)
+            open_.push_back(&(*place_ = std::move(container)));
+        return !isWanted_ || isHeld;
+    }
+
+    bool close() {
+        if (ignored_ > 0)
+            --ignored_;
+        else
+            open_.pop_back();
+        return true;
+    }
+
+    json settings_;
+    json* place_ = &settings_;  // where an object's next value goes
+    std::vector<json*> open_;   // the containers of what is read, outermost first
+    size_t ignored_ = 0;        // containers that are open below an unknown key
+    bool isWanted_ = true;      // false in the value of an unknown key
+};
+
+std::optional<json> parsed(const QByteArray& text) {
+    SettingsBuilder builder;
+    if (!json::sax_parse(text.begin(), text.end(), &builder))
         return std::nullopt;
-    return object;
+    return builder.take();
 }
 
 }  // namespace

@@ -77,8 +77,11 @@ struct SentRecord {
 
 /// One line of the send log.
 struct LogEntry {
-    QUuid id;     ///< identity in this process; made afresh whenever the line is read, never stored
-    Moment time;  ///< when the wait for the history ended, shortly after the send
+    QUuid id;  ///< identity in this process; made afresh whenever the line is read, never stored
+    /// When the outcome was known: the wait for the history ended, or the script failed. A line
+    /// that the history settles later keeps it, unless an SMS fallback takes its place. Of a text
+    /// in hand when the program ended, when Messages had taken it.
+    Moment time;
     QString batch;
     QString name;
     QString phone;

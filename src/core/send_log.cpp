@@ -1,5 +1,6 @@
 #include "core/send_log.h"
 
+#include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
@@ -58,6 +59,23 @@ QString logText(const QString& path) {
     return bytes && bytes->isValidUtf8() ? QString::fromUtf8(*bytes) : QString();
 }
 
+// The stem as it is where a file can have that name; else its beginning and what only this run name
+// gives.
+QString fittingStem(const QString& stem, const QString& batch) {
+    // File systems take 255 bytes: ".csv" is added to them, and ".XXXXXX" while the file is
+    // replaced.
+    constexpr qsizetype longest = 244;
+    if (QFile::encodeName(stem).size() <= longest)
+        return stem;
+    const QByteArray name = QCryptographicHash::hash(batch.toUtf8(), QCryptographicHash::Sha256);
+    const QString ending = u'-' + QString::fromLatin1(name.toHex().first(16));
+    QString beginning = stem.left(longest);
+    while (beginning.back().isHighSurrogate() ||
+           QFile::encodeName(beginning).size() + ending.size() > longest)
+        beginning.chop(1);
+    return beginning + ending;
+}
+
 // Calls `take` with the reader at each row of the text that is an entry.
 template <class Take>
 void readEntryRows(const QString& text, const Take& take) {
@@ -112,7 +130,8 @@ std::vector<LogEntry> SendLog::load(const QString& batch) {
     const QString text = logText(logFile(batch));
     std::vector<LogEntry> entries;
     const LogEntry none;
-    entries.reserve(static_cast<size_t>(text.count(u'\n')));
+    // A row has 8 characters or more; line feeds alone are no entries.
+    entries.reserve(static_cast<size_t>(std::min(text.count(u'\n'), text.size() / 8)));
     readEntryRows(text, [&](const CSVReader& row) {
         const auto time = parseLogTime(row.field(Column::time));
         entries.push_back(entryOf(row, entries.empty() ? none : entries.back()));
@@ -131,7 +150,7 @@ QSet<QString> SendLog::alreadySent(const QString& batch) {
 }
 
 QString SendLog::logFile(const QString& batch) {
-    return folder_.logs() + u'/' + safeFileStem(batch) + u".csv"_s;
+    return folder_.logs() + u'/' + fittingStem(safeFileStem(batch), batch) + u".csv"_s;
 }
 
 QString safeFileStem(const QString& batch) {

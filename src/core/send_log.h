@@ -34,7 +34,8 @@ class SendLog {
     /// The phones in the run's file whose status begins with "sent".
     [[nodiscard]] QSet<QString> alreadySent(const QString& batch);
 
-    /// The path of the run's file.
+    /// The path of the run's file, named by safeFileStem. Where that is longer than file systems
+    /// take, a hash of the run name stands for its end.
     [[nodiscard]] QString logFile(const QString& batch);
 
   private:

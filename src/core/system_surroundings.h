@@ -32,8 +32,8 @@ class SystemRandomSource final : public RandomSource {
     [[nodiscard]] quint64 word() override;
 };
 
-/// A thread of our own for the work, so that a slow disk never queues behind it. Ends after its
-/// work.
+/// One thread for the work, a piece at a time, so that reading a slow disk never holds up the
+/// interface. Its end waits for all work handed in.
 class ThreadBackground final : public QObject, public Background {
     Q_OBJECT
 

@@ -180,6 +180,19 @@ TEST_F(StorageTest, AlreadySentCountsEveryStatusThatBeginsWithSent) {
     other.batch = u"a b"_s;
     log.append(other);
     EXPECT_EQ(log.alreadySent(u"a/b"_s), QSet{u"+2"_s});
+    // Names too long for a file's, of which nothing would be written; the last just fits.
+    const QString chinese = u"\u4e2d"_s.repeated(100);
+    const QString fitting = chinese.left(81) + u'a';
+    for (const QString& name : {chinese, chinese + u'a', u"\U00020000"_s.repeated(63), fitting}) {
+        other.batch = name;
+        log.append(other);
+        other.phone = name.right(2);
+        log.rewrite(name, {other});
+        EXPECT_EQ(log.alreadySent(name), QSet{other.phone});
+        EXPECT_TRUE(log.logFile(name).isValidUtf16());
+    }
+    EXPECT_EQ(log.alreadySent(chinese), QSet{chinese.right(2)}) << "each has its own";
+    EXPECT_TRUE(log.logFile(fitting).endsWith(u'/' + fitting + u".csv"_s));
 }
 
 TEST_F(StorageTest, OddRowsAndDamagedLogsAreReadAsFarAsTheyGo) {

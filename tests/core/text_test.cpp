@@ -83,12 +83,12 @@ TEST(ConfigJSON, OnlyWrongTypesAndBrokenTextGiveNothing) {
     expected.senderNumber = u"+1"_s;
     expected.delayMin = 5;
     EXPECT_EQ(decodeConfig(R"( {"senderNumber":"+1","maxPerRun":60.0,"delayMin":5,"notes":null,
-        "selectedGroupID":null,"verifyWait":null,"other":{"deep":[[[[[1]]]]]},"SENDERNUMBER":3} )"),
+        "selectedGroupID":null,"verifyWait":null,"other":{"notes":[[[[[1]]]]]},"SENDERNUMBER":3} )"),
               expected);
     EXPECT_EQ(decodeConfig("{}"), AppConfig());
     QByteArrayList members = QByteArray(R"("delayMin":"5" "delayMin":true "delayMax":1e999
         "maxPerRun":"60" "maxPerRun":60.5 "maxPerRun":true "maxPerRun":9223372036854775808
-        "maxPerRun":1e19 "maxPerRun":99999999999999999999 "senderNumber":1 "selectedGroupID":{}
+        "maxPerRun":1e19 "maxPerRun":-9223372036854775809 "senderNumber":1 "selectedGroupID":{}
         "templates":[] "templates":{"g":null} "notes":{"g":1} "picks":{"g":"1"}
         "picks":{"g":[null]} "picks":{"g":[["1"]]} "termsAcceptedAt":"now" "quietEnd":"\ud800"
         "quietEnd":"20:00)")
@@ -102,14 +102,23 @@ TEST(ConfigJSON, OnlyWrongTypesAndBrokenTextGiveNothing) {
         EXPECT_EQ(decodeConfig(text), std::nullopt);
 }
 
-// Recursion over a hostile file overflows the stack; building all of it fills the memory.
-TEST(ConfigJSON, SurvivesDepth) {
+// Recursion over a hostile file overflows the stack, building all of it fills the memory, and
+// looking over the whole for each part of it takes minutes.
+TEST(ConfigJSON, SurvivesDepthAndBreadth) {
     const QByteArray open(100'000, '[');
     const QByteArray deep = open + QByteArray(100'000, ']');
     EXPECT_EQ(decodeConfig(open), std::nullopt);
     EXPECT_EQ(decodeConfig("{\"picks\":{\"g\":" + deep + "}}"), std::nullopt);
     EXPECT_EQ(decodeConfig("{\"other\":" + deep + "}"), AppConfig());
     EXPECT_EQ(decodeConfig("{\"picks\":" + QByteArray(5'000'000, '[')), std::nullopt);
+    QByteArray members;
+    for (int key = 0; key < 300'000; ++key)
+        members += '"' + QByteArray::number(key) + "\":{},";
+    EXPECT_EQ(decodeConfig("{\"notes\":{" + members + "\"a\":{}}}"), std::nullopt);
+    const QByteArray list = '[' + QByteArray("{},").repeated(300'000) + "{}]";
+    EXPECT_EQ(decodeConfig(list), std::nullopt);
+    EXPECT_EQ(decodeConfig("{\"picks\":{\"g\":" + list + "}}"), std::nullopt);
+    EXPECT_EQ(decodeConfig("{\"other\":" + list + "}"), AppConfig());
 }
 
 TEST(SafeFileStem, KeepsLettersMarksAndNumbersOfEveryScript) {

@@ -78,6 +78,9 @@ TEST_F(AddressBookTest, ABrokenFileFailsEveryReadWithOneSentence) {
         EXPECT_THAT(people.error().description.toStdString(), testing::HasSubstr("contacts.json"));
         EXPECT_EQ(book.access(), ContactAccess::authorized);
     }
+    const QString path = home.path() + u"/Library/Contacts/contacts.json"_s;
+    ASSERT_TRUE(QFile::remove(path) && QFile::link(u"contacts.json"_s, path));
+    EXPECT_FALSE(book.allGroups().has_value()) << "out of reach is not missing";
 }
 
 // Catches names read without permission, and permission remembered after the user took it away.

@@ -3,11 +3,15 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <cmath>
+#include <filesystem>
+#include <system_error>
 
 namespace velmora {
 
 std::expected<JsonFile, FileError> JsonFile::read(const QString& path) {
-    if (!QFileInfo::exists(path))
+    // A file that cannot be reached is a problem, and no missing one.
+    std::error_code obstacle;
+    if (!std::filesystem::exists(QFileInfo(path).filesystemFilePath(), obstacle) && !obstacle)
         return JsonFile(path, {});
     const auto bytes = readFile(path);
     if (!bytes)
