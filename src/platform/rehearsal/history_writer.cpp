@@ -10,36 +10,22 @@ namespace velmora {
 
 namespace {
 
-// destination_caller_id has no index: the count of the sending numbers reads every message with one
-// on that column, too, and takes as long.
+// Short, for every reading of the history parses it anew. The keys of the two joins are the indexes
+// that the readers join by. destination_caller_id has no index: the count of the sending numbers
+// reads every message with one on that column, too, and takes as long.
 constexpr auto schema = R"sql(
 CREATE TABLE IF NOT EXISTS message (
-    ROWID INTEGER PRIMARY KEY AUTOINCREMENT,
-    guid TEXT UNIQUE NOT NULL,
-    text TEXT,
-    handle_id INTEGER DEFAULT 0,
-    service TEXT,
-    destination_caller_id TEXT,
-    date INTEGER,
-    is_from_me INTEGER DEFAULT 0,
-    error INTEGER DEFAULT 0,
-    is_sent INTEGER DEFAULT 0,
-    is_delivered INTEGER DEFAULT 0);
+    ROWID INTEGER PRIMARY KEY, guid TEXT, text TEXT, handle_id INTEGER, service TEXT,
+    destination_caller_id TEXT, date INTEGER, is_from_me INTEGER, error INTEGER, is_sent INTEGER,
+    is_delivered INTEGER);
 CREATE TABLE IF NOT EXISTS handle (
-    ROWID INTEGER PRIMARY KEY AUTOINCREMENT,
-    id TEXT NOT NULL,
-    service TEXT NOT NULL,
-    UNIQUE (id, service));
-CREATE TABLE IF NOT EXISTS chat (
-    ROWID INTEGER PRIMARY KEY AUTOINCREMENT,
-    guid TEXT UNIQUE NOT NULL,
-    style INTEGER);
+    ROWID INTEGER PRIMARY KEY, id TEXT, service TEXT, UNIQUE (id, service));
+CREATE TABLE IF NOT EXISTS chat (ROWID INTEGER PRIMARY KEY, guid TEXT, style INTEGER);
 CREATE TABLE IF NOT EXISTS chat_handle_join (
-    chat_id INTEGER, handle_id INTEGER, UNIQUE (chat_id, handle_id));
+    chat_id INTEGER, handle_id INTEGER, PRIMARY KEY (handle_id, chat_id)) WITHOUT ROWID;
 CREATE TABLE IF NOT EXISTS chat_message_join (
-    chat_id INTEGER, message_id INTEGER, PRIMARY KEY (chat_id, message_id));
+    chat_id INTEGER, message_id INTEGER, PRIMARY KEY (chat_id, message_id)) WITHOUT ROWID;
 CREATE INDEX IF NOT EXISTS message_idx_handle ON message (handle_id, date);
-CREATE INDEX IF NOT EXISTS chat_handle_join_idx_handle_id ON chat_handle_join (handle_id);
 )sql";
 
 // In the order of HistoryWriter::Command.
