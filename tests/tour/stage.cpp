@@ -181,9 +181,10 @@ void Stage::show(const QString& name, QWindow* other) {
 }
 
 void Stage::picture(const QString& name, QQuickWindow& window) {
-    // Everything is laid out anew, and no time goes by.
+    // Everything is laid out anew, and no time goes by. A display tells of each size in its own time;
+    // until it has, the window goes back to an earlier one.
     for (int turn = 0; turn < 5; ++turn)
-        QCoreApplication::processEvents();
+        QGuiApplication::sync();
     const QString path = folder_.filePath(name + u".png"_s);
     if (!QFileInfo(path).dir().mkpath(u"."_s) || !window.grabWindow().save(path))
         fail(u"the picture %1 could not be written"_s.arg(path));
