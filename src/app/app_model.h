@@ -82,7 +82,9 @@ class AppModel final : public QObject {
 
     /// The start-up sequence, once; suspends only while access to the address book is asked for.
     QCoro::Task<> bootstrap();
-    /// Reads the user's sending numbers and with them whether the history can be read.
+    /// Reads the user's sending numbers and with them whether the history can be read: when it can
+    /// not, `dbOK` is false, `dbError` says why and there are no numbers. When it can, the help for
+    /// Full Disk Access ends, and a number that is the only one is chosen where none was.
     void refreshNumbers();
     /// Reads the groups and all counts afresh. Groups that cannot be read stay as they were and put
     /// a sentence into `alert`; people who cannot be counted are 0.
@@ -111,7 +113,9 @@ class AppModel final : public QObject {
 
     /// Chooses a list; the empty text chooses none. Does nothing during a run.
     void selectGroup(const QString& listID);
-    /// Reads and checks the people of the chosen list, and checks again who was checked in it.
+    /// Reads and checks the people of the chosen list, and checks again who was checked in it; does
+    /// nothing without a list. A list that cannot be read leaves people and selection as they were
+    /// and puts a sentence into `alert`. A run that is active keeps its name, log and texts.
     void loadList();
     [[nodiscard]] const std::vector<Recipient>& recipients() const { return recipients_; }
     /// Indexes into `recipients` of those that the search and the filter leave, in order.
@@ -157,11 +161,11 @@ class AppModel final : public QObject {
     /// Starts a run of everyone checked who can be sent, or sets `alert` to why none can start.
     /// While one is active, that one goes on alone.
     void startRun();
-    /// The first checked person that can be sent, in the list's order.
+    /// The first checked person that can be sent, in the list's order; nothing without one.
     [[nodiscard]] std::optional<Recipient> exampleRecipient() const;
     /// Sends the fixed test text to `testPhone` over iMessage and says in `testResult` what became
-    /// of it, after at most `verifyWait` seconds and one reading more. Does nothing during a run;
-    /// the caller sees to it that no two tests overlap.
+    /// of it, after at most `verifyWait` seconds and one poll (2 seconds) more. Does nothing during
+    /// a run; the caller sees to it that no two tests overlap.
     QCoro::Task<> sendTest();
 
     [[nodiscard]] Runner& runner() { return runner_; }

@@ -1,5 +1,5 @@
 #include <QScopedValueRollback>
-#include <algorithm>
+#include <utility>
 
 #include "app/app_model.h"
 #include "app/recipient_check.h"

@@ -1,6 +1,8 @@
 #include "sending/runner.h"
 
 #include <algorithm>
+#include <coroutine>
+#include <utility>
 
 #include "sending/pacing.h"
 #include "sending/send_outcome.h"

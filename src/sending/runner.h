@@ -4,7 +4,6 @@
 
 #include <QObject>
 #include <QObjectBindableProperty>
-#include <coroutine>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -142,7 +141,8 @@ class Runner final : public QObject {
 
     // Verification (runner_verification.cpp).
     QCoro::Task<LogEntry> sendOne(Item item);
-    QCoro::Task<Attempt> attempt(Item item, Service service, QString label);
+    /// `logged`: whether the text has a line in the log already, which the attempt replaces.
+    QCoro::Task<Attempt> attempt(Item item, Service service, QString label, bool logged = false);
     QCoro::Task<bool> checkLine(LogEntry entry, Item item);
     QCoro::Task<bool> checkFailures();
     QCoro::Task<> checkPending();

@@ -40,7 +40,8 @@ QCoro::Task<LogEntry> Runner::sendOne(Item item) {
     co_return fallback.entry;
 }
 
-QCoro::Task<Runner::Attempt> Runner::attempt(Item item, Service service, QString label) {
+QCoro::Task<Runner::Attempt> Runner::attempt(Item item, Service service, QString label,
+                                             bool logged) {
     const std::weak_ptr<Life> life = life_;
     const qint64 since = historyTimestamp(clock().now());
     const auto handed = tools_.sender.send(item.phone, service, item.text);
@@ -51,8 +52,7 @@ QCoro::Task<Runner::Attempt> Runner::attempt(Item item, Service service, QString
         describeRefusal(result.entry, label, handed.error());
         co_return result;
     }
-    // A fallback for a line that is in the log already needs no second one.
-    if (current.value()) {
+    if (!logged) {
         inHand_ = newEntry(item);
         describeOutcome(*inHand_, label, std::nullopt);
     }
@@ -109,7 +109,7 @@ QCoro::Task<> Runner::checkPending() {
 
 QCoro::Task<LogEntry> Runner::settle(Pending send, SentRecord record) {
     if (record.error != 0 && send.service == Service::iMessage && !stopRequested_) {
-        Attempt fallback = co_await attempt(send.item, Service::sms, fallbackLabel);
+        Attempt fallback = co_await attempt(send.item, Service::sms, fallbackLabel, true);
         co_return fallback.entry;
     }
     LogEntry entry = newEntry(send.item);
