@@ -44,9 +44,13 @@ MainWindow::MainWindow(AppModel& model, std::unique_ptr<NativeLook> look, Motion
     QQuickStyle::setStyle(QStringLiteral("Basic"));
     useFont(look->fontFamily());
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    const int appearance = qmlTypeId("Velmora", 1, 0, "SystemAppearance");
-    engine_.singletonInstance<SystemAppearance*>(appearance)
-        ->setAnimated(motion == Motion::animated && !look->reducesMotion());
+    auto* appearance = engine_.singletonInstance<SystemAppearance*>(
+        qmlTypeId("Velmora", 1, 0, "SystemAppearance"));
+    // The look is given to the engine below, and lives as long as what follows it.
+    const auto followMotion = [appearance, motion, asked = look.get()] {
+        appearance->setAnimated(motion == Motion::animated && !asked->reducesMotion());
+    };
+    followMotion();
     engine_.setInitialProperties(
         {{QStringLiteral("presentation"), QVariant::fromValue(&presentation_)},
          {QStringLiteral("nativeMenus"), look->nativeMenuBar()}});
@@ -63,9 +67,10 @@ MainWindow::MainWindow(AppModel& model, std::unique_ptr<NativeLook> look, Motion
         window_, &QQuickWindow::frameSwapped, &presentation_,
         [this] { presentation_.window()->windowShown(); },
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
-    QObject::connect(qApp, &QGuiApplication::applicationStateChanged, &presentation_,
-                     [this](Qt::ApplicationState state) {
+    QObject::connect(qApp, &QGuiApplication::applicationStateChanged, appearance,
+                     [this, followMotion](Qt::ApplicationState state) {
                          if (state == Qt::ApplicationActive) {
+                             followMotion();
                              presentation_.window()->applicationActivated();
                          }
                      });
