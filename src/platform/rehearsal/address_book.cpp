@@ -4,6 +4,11 @@
 #include <QSet>
 #include <algorithm>
 #include <ranges>
+#include <utility>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace velmora {
 
@@ -74,9 +79,24 @@ std::expected<std::shared_ptr<const AddressBook::Book>, ContactsError> AddressBo
         return std::unexpected(book.error());
     auto parsed = std::make_shared<const Book>(std::move(*book));
     // A file that is missing or cannot be read has no bytes to know it by.
-    book_ = bytes.isEmpty() ? nullptr : parsed;
-    bytes_ = bytes;
+    if (!bytes.isEmpty())
+        keep(parsed, bytes);
     return parsed;
+}
+
+void AddressBook::keep(std::shared_ptr<const Book> book, QByteArray bytes) {
+    book_ = std::move(book);
+    bytes_ = std::move(bytes);
+    QMetaObject::invokeMethod(&turn_, [this] { forget(); }, Qt::QueuedConnection);
+}
+
+void AddressBook::forget() {
+    book_.reset();
+    bytes_.clear();
+#ifdef __GLIBC__
+    // The pieces of a large file would stay with the program, among what it has kept of them.
+    malloc_trim(0);
+#endif
 }
 
 std::expected<void, ContactsError> AddressBook::enumerateContacts(

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QObject>
 #include <memory>
 #include <vector>
 
@@ -36,12 +37,16 @@ class AddressBook final : public ContactSource {
     };
 
     [[nodiscard]] std::expected<Book, ContactsError> parse() const;
-    /// The book as the file has it now; parsed only when its bytes are others than last time.
+    /// The book as the file has it now. What is read together is parsed once: until the event
+    /// loop's next turn, as long as the file's bytes stay the same.
     [[nodiscard]] std::expected<std::shared_ptr<const Book>, ContactsError> read();
+    void keep(std::shared_ptr<const Book> book, QByteArray bytes);
+    void forget();
 
     QString path_;
     QByteArray bytes_;
     std::shared_ptr<const Book> book_;
+    QObject turn_;  // what is to happen at the next turn goes with it
 };
 
 }  // namespace velmora
