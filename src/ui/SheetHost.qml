@@ -42,6 +42,8 @@ Item {
     HostedSheet {
         z: 1
         shown: host.window.alertShown
+        // A sheet that opens under the alert takes the keyboard with it.
+        onActiveFocusChanged: if (shown && !activeFocus && parent.Window.active) forceActiveFocus()
         sheet: AlertBox {
             title: "Velmora"
             message: host.window.alertText

@@ -56,7 +56,8 @@ T.Popup {
     }
     contentItem: SheetStage {
         sheet: popup.sheet
-        shown: popup.visible
+        held: popup.visible
+        leaving: !popup.shown
         lift: popup.hidden * popup.height
     }
 }

@@ -6,7 +6,10 @@ FocusScope {
     id: stage
 
     required property Component sheet
-    required property bool shown
+    /// Whether there is a sheet to hold.
+    required property bool held
+    /// Whether the sheet is on its way out, and takes clicks no longer.
+    required property bool leaving
     required property real lift
 
     focus: true
@@ -21,8 +24,12 @@ FocusScope {
 
         // A repeater of one: no loader makes a component that is bound to another file.
         Repeater {
-            model: stage.shown ? 1 : 0
+            model: stage.held ? 1 : 0
             delegate: stage.sheet
         }
+    }
+    MouseArea {
+        anchors.fill: parent
+        visible: stage.leaving
     }
 }

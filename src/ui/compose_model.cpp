@@ -30,7 +30,10 @@ const std::array<Snippet, 4>& snippets() {
 }  // namespace
 
 ComposeModel::ComposeModel(AppModel& model)
-    : model_(model), senderNumber_(model.config().senderNumber), subject_(subject()) {
+    : model_(model),
+      resuming_(model),
+      senderNumber_(model.config().senderNumber),
+      subject_(subject()) {
     connect(&model_, &AppModel::configChanged, this, &ComposeModel::followConfig);
     connect(&model_, &AppModel::contactsAllowedChanged, this, &ComposeModel::messageChanged);
     connect(&model_, &AppModel::numbersChanged, this, &ComposeModel::senderChanged);
@@ -167,10 +170,12 @@ void ComposeModel::requestRun() {
 }
 
 void ComposeModel::stop() {
-    model_.runner().stop();
+    if (!resuming_.isUnderWay())
+        model_.runner().stop();
 }
 
 void ComposeModel::resume() {
+    resuming_.begin();
     model_.runner().resume();
 }
 

@@ -6,6 +6,7 @@
 #include <QtQmlIntegration>
 
 #include "app/app_model.h"
+#include "ui/double_click.h"
 
 namespace velmora {
 
@@ -88,7 +89,8 @@ class ComposeModel final : public QObject {
     /// Asks for the run to be confirmed, or has the alert say why it cannot be. Does nothing during
     /// a run.
     Q_INVOKABLE void requestRun();
-    /// Ends the active run after the text in hand.
+    /// Ends the active run after the text in hand. Does nothing for the length of a double click
+    /// after `resume`: the button has just grown under the pointer.
     Q_INVOKABLE void stop();
     /// Lets a paused run go on.
     Q_INVOKABLE void resume();
@@ -106,6 +108,7 @@ class ComposeModel final : public QObject {
     void followConfig();
 
     AppModel& model_;
+    DoubleClick resuming_;
     QString senderNumber_;  // what the views were last told, as is the subject
     QString subject_;
 };

@@ -155,10 +155,7 @@ Button, Stop
 Button, Resume
 Heading, Activity
 List, Activity
-ListItem, Ann Lee, sent · iMessage, 11:00:04
-StaticText, Ann Lee
-StaticText, sent · iMessage
-StaticText, 11:00:04)");
+ListItem, Ann Lee, sent · iMessage, 11:00:04)");
 
     model->alert = u"Something is wrong."_s;
     ASSERT_TRUE(window.until([&] { return window.shows(u"OK"_s); }));

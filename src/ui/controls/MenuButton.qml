@@ -26,7 +26,7 @@ MenuOpener {
     menu: popup
     Accessible.role: Accessible.ButtonMenu
     Accessible.name: text
-    Accessible.description: enabled ? help : Theme.unavailable
+    Accessible.description: enabled && filled ? help : Theme.unavailable
 
     PopupMenu {
         id: popup
