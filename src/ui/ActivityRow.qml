@@ -72,7 +72,7 @@ Item {
     FixedDigitsText {
         id: time
         x: row.width - width - 10
-        y: 7
+        y: 8
         text: row.clockTime
         Accessible.ignored: true
         color: Theme.secondary

@@ -30,7 +30,7 @@ MenuOpener {
 
     PopupMenu {
         id: popup
-        y: button.height + 3
+        y: button.height + (button.borderless ? 7 : 3)
         width: Math.max(implicitWidth, button.borderless ? 0 : button.width)
         entries: button.entries
         marksColumn: button.marksColumn
@@ -46,6 +46,7 @@ MenuOpener {
     ControlSurface {
         anchors.fill: parent
         visible: !button.borderless
+        enabled: button.filled
         pressed: popup.visible
         hovered: button.hovered
     }

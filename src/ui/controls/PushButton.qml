@@ -37,7 +37,7 @@ T.AbstractButton {
     implicitWidth: Math.max(framed && text.length > 0 ? 64 : 0,
                             face.implicitWidth + leftPadding + rightPadding)
     implicitHeight: framed ? faceHeight : Math.max(16, face.implicitHeight + 2)
-    leftPadding: framed ? (controlSize === PushButton.Small ? 10 : 14) : 0
+    leftPadding: framed ? (controlSize === PushButton.Small ? 8 : 14) : 0
     rightPadding: leftPadding
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
@@ -107,7 +107,8 @@ T.AbstractButton {
             anchors.fill: parent
             visible: button.framed
             prominent: button.prominent && button.enabled
-            pressed: button.down || (button.prominent && !button.enabled)
+            flat: button.prominent && !button.enabled
+            pressed: button.down
             hovered: button.hovered
         }
         FocusRing {
