@@ -30,6 +30,7 @@ ApplicationWindow {
     menuBar: WindowMenuBar {
         id: bar
         visible: !root.nativeMenus
+        enabled: root.presentation.window.commandsEnabled
         commands: root.presentation.menus
     }
     MenuShortcuts {

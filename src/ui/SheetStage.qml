@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Velmora
 
 /// Holds one sheet while it is shown, as large as the sheet wants to be.
 FocusScope {
@@ -8,6 +9,8 @@ FocusScope {
     required property Component sheet
     /// Whether there is a sheet to hold.
     required property bool held
+    /// Whether something lies over the sheet.
+    required property bool covered
     /// Whether the sheet is on its way out, and takes clicks no longer.
     required property bool leaving
     required property real lift
@@ -19,13 +22,17 @@ FocusScope {
         y: -stage.lift
     }
 
-    Column {
-        id: holder
+    UnspokenArea {
+        Accessible.ignored: !stage.covered && !stage.leaving
 
-        // A repeater of one: no loader makes a component that is bound to another file.
-        Repeater {
-            model: stage.held ? 1 : 0
-            delegate: stage.sheet
+        Column {
+            id: holder
+
+            // A repeater of one: no loader makes a component that is bound to another file.
+            Repeater {
+                model: stage.held ? 1 : 0
+                delegate: stage.sheet
+            }
         }
     }
     MouseArea {

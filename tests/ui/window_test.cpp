@@ -58,7 +58,8 @@ TEST_F(WindowTest, FirstStartLeadsThroughItsSheets) {
     WindowDriver& user = show();
     ASSERT_TRUE(user.until([&] { return model->bootstrapped && user.shows(u"I Agree"_s); }));
 
-    user.clickAt(user.place(u"Friends, 3"_s));
+    const QPoint list(100, 104);
+    user.clickAt(list);
     EXPECT_EQ(model->config().selectedGroupID, allContactsID) << "clicked through the sheet";
     user.key(Qt::Key_A, command | Qt::ShiftModifier);
     EXPECT_TRUE(model->selection().isEmpty()) << "a shortcut reached under the sheet";
@@ -80,7 +81,9 @@ TEST_F(WindowTest, FirstStartLeadsThroughItsSheets) {
     ASSERT_TRUE(user.until([&] { return user.shows(u"Choose Later"_s); }));
     EXPECT_TRUE(user.click(u"(212) 555-8888"_s));
     EXPECT_EQ(model->config().senderNumber, myOtherLine);
-    EXPECT_TRUE(user.until([&] { return !user.shows(u"Choose Later"_s); }));
+    EXPECT_TRUE(user.until([&] { return user.shows(u"Friends, 3"_s); }));
+    user.clickAt(list);
+    EXPECT_EQ(model->config().selectedGroupID, u"friends"_s) << "the click above meant nothing";
 }
 
 // Catches a split that the keyboard cannot move, or that squeezes the list on the smallest window.
@@ -124,7 +127,7 @@ TEST_F(WindowTest, AlertLiesOverEverything) {
 
     model->alert = u"Something else."_s;
     model->showingFDAHelp = true;
-    ASSERT_TRUE(user.until([&] { return user.shows(u"OK"_s) && user.shows(u"Not Now"_s); }));
+    ASSERT_TRUE(user.until([&] { return user.shows(u"OK"_s); }));
     user.key(Qt::Key_Escape);
     EXPECT_FALSE(model->alert.value().has_value());
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, {}, true);

@@ -25,7 +25,7 @@ Item {
     activeFocusOnTab: filled
     opacity: enabled && filled ? 1 : 0.45
     Accessible.focusable: true
-    Accessible.onPressAction: open()
+    Accessible.onPressAction: if (enabled) open()
     Keys.onSpacePressed: event => openByKey(event)
     Keys.onReturnPressed: event => openByKey(event)
     Keys.onEnterPressed: event => openByKey(event)
