@@ -154,9 +154,11 @@ void ComposeModel::setMessage(const QString& text) {
 }
 
 void ComposeModel::insert(int place) {
-    const bool exists = place >= 0 && place < static_cast<int>(snippets().size());
-    if (exists && !locked())
-        model_.appendToTemplate(snippets().at(static_cast<size_t>(place)).text);
+    if (locked() || place < 0 || place >= std::ssize(snippets()))
+        return;
+    const QString& text = snippets().at(static_cast<size_t>(place)).text;
+    if (!text.isEmpty())
+        model_.appendToTemplate(text);
 }
 
 void ComposeModel::chooseSender(int place) {

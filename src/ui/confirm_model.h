@@ -41,7 +41,7 @@ class ConfirmModel final : public QObject {
     /// How many characters can be typed as the name, which has to fit into a file's.
     [[nodiscard]] int longestRunName() const;
 
-    /// Stores the name as typed, of whatever length; the run goes by it as a file's name has it.
+    /// Takes the name as typed; `startSending` looks who was already sent to under it.
     Q_INVOKABLE void setRunName(const QString& name);
     /// Closes the sheet; nothing is sent.
     Q_INVOKABLE void cancel();
