@@ -99,6 +99,8 @@ class AppModel final : public QObject {
 
     /// The wall clock's moment.
     [[nodiscard]] Moment now() const { return surroundings_.clock.now(); }
+    /// Seconds since an arbitrary start, never going back.
+    [[nodiscard]] double uptime() const { return surroundings_.clock.uptime(); }
     [[nodiscard]] bool isAllContacts() const;
     /// The chosen list, the synthetic All Contacts included.
     [[nodiscard]] std::optional<GroupInfo> currentGroup() const;

@@ -16,6 +16,9 @@ Item {
     required property string clockTime
 
     implicitHeight: words.height + 12
+    // The list hides a spare row from the eye alone, not from a screen reader.
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
     Accessible.role: Accessible.ListItem
     Accessible.focused: current
     Accessible.name: name + ", " + details + ", " + clockTime
@@ -55,11 +58,13 @@ Item {
         BodyText {
             width: time.x - words.x - 8
             text: row.name
+            Accessible.ignored: true
         }
         BodyText {
             width: parent.width
             visible: text.length > 0
             text: row.details
+            Accessible.ignored: true
             color: Theme.secondary
             font.pixelSize: Theme.caption
         }
@@ -67,8 +72,9 @@ Item {
     FixedDigitsText {
         id: time
         x: row.width - width - 10
-        y: 7
+        y: 8
         text: row.clockTime
+        Accessible.ignored: true
         color: Theme.secondary
         pixelSize: Theme.caption
     }

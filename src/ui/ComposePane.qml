@@ -11,6 +11,10 @@ Item {
     required property ComposeModel model
     required property ActivityModel activity
 
+    /// Whether the log has its place, which it has from the start of a run: its first line moves
+    /// nothing.
+    readonly property bool steady: model.showsActivity || model.stage !== ComposeModel.Stage.ready
+
     EmptyState {
         anchors.fill: parent
         visible: !pane.model.showsComposer
@@ -42,7 +46,7 @@ Item {
                 id: message
                 Layout.fillWidth: true
                 model: pane.model
-                steady: pane.model.showsActivity
+                steady: pane.steady
             }
             ColumnLayout {
                 Layout.fillWidth: true
@@ -72,16 +76,17 @@ Item {
                 Layout.fillHeight: false
                 model: pane.model
             }
-            ActivityView {
+            Item {
                 Layout.fillWidth: true
                 Layout.fillHeight: true
-                Layout.minimumHeight: implicitHeight
-                visible: pane.model.showsActivity
-                model: pane.activity
-            }
-            Item {
-                Layout.fillHeight: true
-                visible: !pane.model.showsActivity
+                Layout.minimumHeight: pane.steady ? log.implicitHeight : 0
+
+                ActivityView {
+                    id: log
+                    anchors.fill: parent
+                    visible: pane.model.showsActivity
+                    model: pane.activity
+                }
             }
         }
     }

@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import Velmora
 
 /// The main window's content: the sidebar, and beside it the list and the composer.
-Item {
+UnspokenArea {
     id: content
 
     required property Presentation presentation
@@ -16,6 +16,8 @@ Item {
     property int chosenSidebarWidth: 230
     readonly property int sidebarWidth: Math.max(sidebarMinimum,
                                                  Math.min(sidebarMaximum, chosenSidebarWidth))
+
+    Accessible.ignored: presentation.window.commandsEnabled
 
     RowLayout {
         anchors.fill: parent

@@ -16,7 +16,8 @@ ApplicationWindow {
     width: 1240
     height: 740 + barHeight
     minimumWidth: 960
-    minimumHeight: 580 + barHeight
+    // What a Mac's title bar shows is drawn here, above the content.
+    minimumHeight: 580 + content.headerHeight + barHeight
     title: presentation.window.title
     color: Theme.windowBackground
     font.family: Theme.fontFamily
@@ -29,6 +30,7 @@ ApplicationWindow {
     menuBar: WindowMenuBar {
         id: bar
         visible: !root.nativeMenus
+        enabled: root.presentation.window.commandsEnabled
         commands: root.presentation.menus
     }
     MenuShortcuts {

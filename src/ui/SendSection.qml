@@ -13,6 +13,12 @@ ColumnLayout {
     readonly property bool paused: model.stage === ComposeModel.Stage.paused
     readonly property bool going: model.stage === ComposeModel.Stage.running || paused
 
+    component StatusLine: BodyText {
+        text: section.model.status
+        color: Theme.secondary
+        font.pixelSize: Theme.caption
+    }
+
     spacing: 10
 
     PushButton {
@@ -24,18 +30,33 @@ ColumnLayout {
         text: section.model.sendTitle
         onClicked: section.model.requestRun()
     }
-    RunProgress {
+    StatusLine {
         Layout.fillWidth: true
-        visible: section.going
-        value: section.model.progress
-        total: section.model.progressTotal
+        visible: section.ready && section.model.showsStatus && text.length > 0
     }
-    BodyText {
+    // Keeps the room of two lines through the whole run, and so the buttons in their place.
+    Item {
         Layout.fillWidth: true
-        visible: section.model.showsStatus && text.length > 0
-        text: section.model.status
-        color: Theme.secondary
-        font.pixelSize: Theme.caption
+        visible: !section.ready
+        implicitHeight: line.y + Math.max(2 * Math.ceil(face.lineSpacing), line.implicitHeight)
+
+        FontMetrics {
+            id: face
+            font: line.font
+        }
+        RunProgress {
+            id: bar
+            width: parent.width
+            visible: section.going
+            value: section.model.progress
+            total: section.model.progressTotal
+        }
+        StatusLine {
+            id: line
+            y: bar.height + section.spacing
+            width: parent.width
+            visible: section.going
+        }
     }
     RowLayout {
         visible: section.going

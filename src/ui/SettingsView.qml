@@ -15,8 +15,9 @@ FocusScope {
 
     ColumnLayout {
         id: form
-        anchors.fill: parent
-        anchors.margins: 20
+        x: 20
+        y: 20
+        width: view.width - 40
         spacing: 20
 
         FormSection {
@@ -139,6 +140,5 @@ FocusScope {
                 font.pixelSize: Theme.callout
             }
         }
-        Item { Layout.fillHeight: true }
     }
 }

@@ -19,6 +19,7 @@ Window {
     color: Theme.windowBackground
 
     Shortcut {
+        autoRepeat: false
         sequences: ["Esc", "Ctrl+W"]
         onActivated: window.close()
     }

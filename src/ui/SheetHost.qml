@@ -13,6 +13,7 @@ Item {
 
     component HostedSheet: SheetPopup {
         titleBottom: host.titleBottom
+        covered: host.window.alertShown
     }
 
     HostedSheet {
@@ -41,7 +42,10 @@ Item {
     }
     HostedSheet {
         z: 1
+        covered: false
         shown: host.window.alertShown
+        // A sheet that opens under the alert takes the keyboard with it.
+        onActiveFocusChanged: if (shown && !activeFocus && parent.Window.active) forceActiveFocus()
         sheet: AlertBox {
             title: "Velmora"
             message: host.window.alertText

@@ -9,6 +9,8 @@ T.Popup {
     id: popup
 
     required property bool shown
+    /// Whether the alert lies over it.
+    required property bool covered
     required property int titleBottom
     required property Component sheet
 
@@ -56,7 +58,9 @@ T.Popup {
     }
     contentItem: SheetStage {
         sheet: popup.sheet
-        shown: popup.visible
+        held: popup.visible
+        covered: popup.covered
+        leaving: !popup.shown
         lift: popup.hidden * popup.height
     }
 }

@@ -1,12 +1,18 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Velmora
 
 /// Holds one sheet while it is shown, as large as the sheet wants to be.
 FocusScope {
     id: stage
 
     required property Component sheet
-    required property bool shown
+    /// Whether there is a sheet to hold.
+    required property bool held
+    /// Whether something lies over the sheet.
+    required property bool covered
+    /// Whether the sheet is on its way out, and takes clicks no longer.
+    required property bool leaving
     required property real lift
 
     focus: true
@@ -16,13 +22,21 @@ FocusScope {
         y: -stage.lift
     }
 
-    Column {
-        id: holder
+    UnspokenArea {
+        Accessible.ignored: !stage.covered && !stage.leaving
 
-        // A repeater of one: no loader makes a component that is bound to another file.
-        Repeater {
-            model: stage.shown ? 1 : 0
-            delegate: stage.sheet
+        Column {
+            id: holder
+
+            // A repeater of one: no loader makes a component that is bound to another file.
+            Repeater {
+                model: stage.held ? 1 : 0
+                delegate: stage.sheet
+            }
         }
+    }
+    MouseArea {
+        anchors.fill: parent
+        visible: stage.leaving
     }
 }

@@ -21,27 +21,30 @@ Rectangle {
     implicitHeight: 28
     color: Theme.windowBackground
     Accessible.role: Accessible.MenuBar
+    Accessible.ignored: !enabled
 
     Shortcut {
         sequence: "F10"
         enabled: bar.visible
         onActivated: bar.open(0)
     }
-    Row {
+    UnspokenArea {
         x: 6
-        height: parent.height - 1
+        Accessible.ignored: bar.enabled
 
-        Repeater {
-            id: titles
-            model: bar.commands.menus
+        Row {
+            Repeater {
+                id: titles
+                model: bar.commands.menus
 
-            MenuTitle {
-                height: bar.height - 1
-                opened: bar.opened
-                commands: bar.commands
-                keyboardBefore: bar.keyboardBefore
-                onWanted: place => bar.open((place + titles.count) % titles.count)
-                onDismissed: if (bar.opened === index) bar.opened = -1
+                MenuTitle {
+                    height: bar.height - 1
+                    opened: bar.opened
+                    commands: bar.commands
+                    keyboardBefore: bar.keyboardBefore
+                    onWanted: place => bar.open((place + titles.count) % titles.count)
+                    onDismissed: if (bar.opened === index) bar.opened = -1
+                }
             }
         }
     }

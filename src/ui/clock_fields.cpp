@@ -16,17 +16,20 @@ int wrapped(int value, int count) {
 }
 
 QString separatorOf(const QString& format) {
-    static const QRegularExpression between(QStringLiteral("[hH]+([^hHm]+)m"));
+    static const QRegularExpression between(QStringLiteral("[hH]+((?:'[^']*'|[^hHm'])+)m"));
     const QRegularExpressionMatch match = between.match(format);
     return match.hasMatch() ? match.captured(1).remove(u'\'') : QStringLiteral(":");
 }
 
 }  // namespace
 
-ClockFields::ClockFields(QObject* parent)
-    : QObject(parent),
-      twelveHour_(QLocale().timeFormat(QLocale::ShortFormat).contains(u"ap", Qt::CaseInsensitive)),
-      separator_(separatorOf(QLocale().timeFormat(QLocale::ShortFormat))) {}
+ClockFields::ClockFields(QObject* parent) : QObject(parent) {
+    const QString format = QLocale().timeFormat(QLocale::ShortFormat);
+    const qsizetype half = format.indexOf(u"ap", 0, Qt::CaseInsensitive);
+    twelveHour_ = half >= 0;
+    halfFirst_ = half < format.indexOf(u'h', 0, Qt::CaseInsensitive);
+    separator_ = separatorOf(format);
+}
 
 void ClockFields::setHour(int hour) {
     if (hour == hour_)

@@ -14,6 +14,8 @@ class ClockFields : public QObject {
     Q_PROPERTY(int hour READ hour WRITE setHour NOTIFY changed)
     Q_PROPERTY(int minute READ minute WRITE setMinute NOTIFY changed)
     Q_PROPERTY(bool twelveHour READ twelveHour CONSTANT)
+    Q_PROPERTY(bool halfFirst READ halfFirst CONSTANT)
+    Q_PROPERTY(bool halfLast READ halfLast CONSTANT)
     Q_PROPERTY(QString separator READ separator CONSTANT)
     Q_PROPERTY(QString hourText READ hourText NOTIFY changed)
     Q_PROPERTY(QString minuteText READ minuteText NOTIFY changed)
@@ -30,6 +32,10 @@ class ClockFields : public QObject {
     void setMinute(int minute);
 
     [[nodiscard]] bool twelveHour() const { return twelveHour_; }
+    /// Whether the half of the day stands before the hours, or after the minutes. Neither where the
+    /// language counts to twenty-four.
+    [[nodiscard]] bool halfFirst() const { return twelveHour_ && halfFirst_; }
+    [[nodiscard]] bool halfLast() const { return twelveHour_ && !halfFirst_; }
     /// What stands between hours and minutes.
     [[nodiscard]] QString separator() const { return separator_; }
     [[nodiscard]] QString hourText() const;
@@ -59,7 +65,8 @@ class ClockFields : public QObject {
 
     int hour_ = 0;
     int minute_ = 0;
-    bool twelveHour_;
+    bool twelveHour_ = false;
+    bool halfFirst_ = false;
     QString separator_;
     std::optional<int> pending_;
 };

@@ -30,7 +30,10 @@ const std::array<Snippet, 4>& snippets() {
 }  // namespace
 
 ComposeModel::ComposeModel(AppModel& model)
-    : model_(model), senderNumber_(model.config().senderNumber), subject_(subject()) {
+    : model_(model),
+      resuming_(model),
+      senderNumber_(model.config().senderNumber),
+      subject_(subject()) {
     connect(&model_, &AppModel::configChanged, this, &ComposeModel::followConfig);
     connect(&model_, &AppModel::contactsAllowedChanged, this, &ComposeModel::messageChanged);
     connect(&model_, &AppModel::numbersChanged, this, &ComposeModel::senderChanged);
@@ -151,9 +154,11 @@ void ComposeModel::setMessage(const QString& text) {
 }
 
 void ComposeModel::insert(int place) {
-    const bool exists = place >= 0 && place < static_cast<int>(snippets().size());
-    if (exists && !locked())
-        model_.appendToTemplate(snippets().at(static_cast<size_t>(place)).text);
+    if (locked() || place < 0 || place >= std::ssize(snippets()))
+        return;
+    const QString& text = snippets().at(static_cast<size_t>(place)).text;
+    if (!text.isEmpty())
+        model_.appendToTemplate(text);
 }
 
 void ComposeModel::chooseSender(int place) {
@@ -167,10 +172,12 @@ void ComposeModel::requestRun() {
 }
 
 void ComposeModel::stop() {
-    model_.runner().stop();
+    if (!resuming_.isUnderWay())
+        model_.runner().stop();
 }
 
 void ComposeModel::resume() {
+    resuming_.begin();
     model_.runner().resume();
 }
 

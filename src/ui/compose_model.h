@@ -6,6 +6,7 @@
 #include <QtQmlIntegration>
 
 #include "app/app_model.h"
+#include "ui/double_click.h"
 
 namespace velmora {
 
@@ -77,18 +78,21 @@ class ComposeModel final : public QObject {
     /// Whether the log has a line.
     [[nodiscard]] bool showsActivity() const;
 
-    /// Stores the message as typed. Does nothing during a run.
+    /// Stores the message as typed and renders everyone's text again. Does nothing during a run or
+    /// without a list.
     Q_INVOKABLE void setMessage(const QString& text);
-    /// Adds what the entry at `place` stands for at the message's end. Does nothing during a run or
-    /// where there is no such entry.
+    /// Adds what the entry at `place` stands for at the message's end, wherever the caret is. Does
+    /// nothing during a run, without a list, for the line between the entries, or where there is no
+    /// such entry.
     Q_INVOKABLE void insert(int place);
     /// Sends from the number at `place` from now on and checks the list against it. Does nothing
     /// during a run or where there is no such number.
     Q_INVOKABLE void chooseSender(int place);
-    /// Asks for the run to be confirmed, or has the alert say why it cannot be. Does nothing during
-    /// a run.
+    /// At the event loop's next turn, asks for the run to be confirmed, or has the alert say why it
+    /// cannot be. Does nothing during a run and before the terms are accepted.
     Q_INVOKABLE void requestRun();
-    /// Ends the active run after the text in hand.
+    /// Ends the active run after the text in hand. Does nothing for the length of a double click
+    /// after `resume`: the button has just grown under the pointer.
     Q_INVOKABLE void stop();
     /// Lets a paused run go on.
     Q_INVOKABLE void resume();
@@ -106,6 +110,7 @@ class ComposeModel final : public QObject {
     void followConfig();
 
     AppModel& model_;
+    DoubleClick resuming_;
     QString senderNumber_;  // what the views were last told, as is the subject
     QString subject_;
 };

@@ -7,13 +7,17 @@
 
 namespace velmora {
 
-ConfirmModel::ConfirmModel(AppModel& model) : model_(model) {
+ConfirmModel::ConfirmModel(AppModel& model) : model_(model), opening_(model) {
     connect(&model_, &AppModel::configChanged, this, &ConfirmModel::follow);
     connect(&model_, &AppModel::selectionChanged, this, &ConfirmModel::follow);
     connect(&model_, &AppModel::recipientsReplaced, this, &ConfirmModel::follow);
     connect(&model_, &AppModel::recipientTextChanged, this, &ConfirmModel::follow);
     connect(&model_, &AppModel::recipientTextsChanged, this, &ConfirmModel::follow);
     connect(&model_, &AppModel::batchNameChanged, this, &ConfirmModel::runNameChanged);
+    connect(&model_, &AppModel::confirmingRunChanged, this, [this] {
+        if (model_.confirmingRun)
+            opening_.begin();
+    });
 }
 
 void ConfirmModel::follow() {
@@ -62,7 +66,7 @@ void ConfirmModel::cancel() {
 }
 
 void ConfirmModel::startSending() {
-    if (model_.confirmingRun)
+    if (model_.confirmingRun && !opening_.isUnderWay())
         model_.confirmRun();
 }
 

@@ -4,6 +4,7 @@
 #include <QtQmlIntegration>
 
 #include "app/app_model.h"
+#include "ui/double_click.h"
 
 namespace velmora {
 
@@ -40,11 +41,13 @@ class ConfirmModel final : public QObject {
     /// How many characters can be typed as the name, which has to fit into a file's.
     [[nodiscard]] int longestRunName() const;
 
+    /// Takes the name as typed; `startSending` looks who was already sent to under it.
     Q_INVOKABLE void setRunName(const QString& name);
     /// Closes the sheet; nothing is sent.
     Q_INVOKABLE void cancel();
     /// Closes the sheet and starts the run, or has the alert say why it does not start. Does
-    /// nothing when no run is to be confirmed.
+    /// nothing when no run is to be confirmed, and none for the length of a double click after
+    /// there is one: the second click on the send button starts nothing unread.
     Q_INVOKABLE void startSending();
 
   Q_SIGNALS:
@@ -56,6 +59,7 @@ class ConfirmModel final : public QObject {
     void follow();
 
     AppModel& model_;
+    DoubleClick opening_;
 };
 
 }  // namespace velmora

@@ -25,7 +25,8 @@ void FirstRunModel::openTerms() {
 }
 
 void FirstRunModel::acceptTerms() {
-    model_.acceptTerms();
+    if (!model_.termsAccepted())
+        model_.acceptTerms();
 }
 
 void FirstRunModel::quit() {

@@ -49,7 +49,10 @@ class SettingsModel final : public QObject {
     [[nodiscard]] QStringList senderOptions() const;
     /// The chosen one of the options.
     [[nodiscard]] int senderIndex() const;
+    /// Sends from the option at `index` from now on, the first standing for no number, and checks
+    /// the list against it. Does nothing where there is no such option.
     Q_INVOKABLE void chooseSender(int index);
+    /// Whether this computer has no number to send from.
     [[nodiscard]] bool numbersMissing() const;
 
     /// The ends of the wait between two texts, seconds.
@@ -63,6 +66,7 @@ class SettingsModel final : public QObject {
     [[nodiscard]] int startMinute() const;
     [[nodiscard]] int endHour() const;
     [[nodiscard]] int endMinute() const;
+    /// Store an end: `hour` from 0 to 23, `minute` from 0 to 59.
     Q_INVOKABLE void setStart(int hour, int minute);
     Q_INVOKABLE void setEnd(int hour, int minute);
 
@@ -71,15 +75,18 @@ class SettingsModel final : public QObject {
     void setMaxFailures(int count);
     [[nodiscard]] static int fewestFailures() { return 1; }
     [[nodiscard]] static int mostFailures() { return 10; }
+    /// The sentence around `maxFailures`, as it is stored.
     [[nodiscard]] QString failuresText() const;
 
     [[nodiscard]] QString testPhone() const;
+    /// Takes the number as typed, also during a run; whether it is one shows when the test is sent.
     void setTestPhone(const QString& typed);
     /// Whether there is a number to send it to and neither a run nor a test under way, nor the
     /// terms still to be accepted.
     [[nodiscard]] bool canSendTest() const;
     /// Sends the test text, when that can be done.
     Q_INVOKABLE void sendTest();
+    /// How the last test stands, in a sentence; empty before the first one.
     [[nodiscard]] QString testResult() const;
 
   Q_SIGNALS:

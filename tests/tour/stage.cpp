@@ -165,7 +165,7 @@ void Stage::show(const QString& name, QWindow* other) {
     if (pace_ == Pace::asInLife)
         return expect(numberedPicture(name), u"the picture could not be written"_s);
     auto* window = other == nullptr ? &user_->window() : qobject_cast<QQuickWindow*>(other);
-    const QSize menus(0, window->minimumHeight() - 580);
+    const QSize menus(0, window->minimumHeight() - 632);
     const bool dense = window->devicePixelRatio() > 1;
     for (const QString& look : {u"dark"_s, u"light"_s}) {
         setDark(look == u"dark");
@@ -173,7 +173,7 @@ void Stage::show(const QString& name, QWindow* other) {
             picture(look + u'/' + name, *window);
             continue;
         }
-        for (const QSize size : {QSize(960, 580), QSize(1240, 740)}) {
+        for (const QSize size : {QSize(960, 632), QSize(1240, 740)}) {
             window->resize(size + menus);
             picture(look + u"-%1/"_s.arg(size.width()) + name, *window);
         }

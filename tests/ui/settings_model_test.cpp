@@ -107,8 +107,9 @@ TEST(NumberField, ReadsAndWritesDecimalNumbers) {
         EXPECT_FALSE(NumberText::readable(text)) << text.toStdString();
 }
 
-// Catches typed digits that don't become one number or leave the range, steps that don't wrap, and
-// a midnight or noon that counts as the other where the language counts to twelve.
+// Catches typed digits that don't become one number or leave the range, steps that don't wrap, a
+// midnight or noon that counts as the other where the language counts to twelve, and parts that
+// stand otherwise than the language writes them.
 TEST(ClockFields, TakeDigitsAndSteps) {
     ClockFields clock;
     QObject::connect(&clock, &ClockFields::picked, [&](int hour, int minute) {
@@ -140,6 +141,10 @@ TEST(ClockFields, TakeDigitsAndSteps) {
     twelve.typeHour(u"1"_s);
     twelve.typeHour(u"1"_s);
     EXPECT_EQ(twelve.hour(), 23);
+    QLocale::setDefault(QLocale(u"ko_KR"_s));
+    EXPECT_TRUE(ClockFields().halfFirst());
+    QLocale::setDefault(QLocale(u"fr_CA"_s));
+    EXPECT_EQ(ClockFields().separator(), u" h "_s);
     QLocale::setDefault(before);
 }
 

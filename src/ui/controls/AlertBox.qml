@@ -30,7 +30,7 @@ FocusScope {
     Keys.onEnterPressed: event => event.accepted = takeReturn(event)
     Keys.onPressed: event => {
         event.accepted = event.matches(StandardKey.Cancel);
-        if (event.accepted)
+        if (event.accepted && !event.isAutoRepeat)
             dismissed();
     }
 

@@ -30,9 +30,9 @@ MenuOpener {
 
     PopupMenu {
         id: popup
-        x: -24
+        x: -21
         y: -rowsTop - Math.max(0, picker.currentIndex) * 24
-        width: Math.max(implicitWidth, picker.width + 24)
+        width: Math.max(implicitWidth, picker.width - popup.x)
         entries: picker.options
         markedIndex: picker.currentIndex
         marksColumn: true
@@ -41,6 +41,7 @@ MenuOpener {
 
     ControlSurface {
         anchors.fill: parent
+        enabled: picker.filled
         pressed: popup.visible
         hovered: picker.hovered
     }
@@ -66,13 +67,13 @@ MenuOpener {
             implicitWidth: 16
             implicitHeight: 16
             radius: 4
-            color: Theme.accent
+            color: picker.enabled ? Theme.accent : Theme.quaternary
 
             SymbolIcon {
                 anchors.centerIn: parent
                 name: "chevron.up.chevron.down"
                 size: 11
-                color: Theme.overAccent
+                color: picker.enabled ? Theme.overAccent : Theme.secondary
             }
         }
     }

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import QtQuick.Layouts
 import Velmora
 
 /// A time of hours and minutes, typed or stepped part by part, as the user's language writes it.
@@ -34,6 +35,13 @@ FocusScope {
         onPicked: (hour, minute) => picker.picked(hour, minute)
     }
 
+    FontMetrics {
+        id: face
+        readonly property real twoDigits: 2 + Math.ceil(2 * Math.max(...Array.from("0123456789",
+                                                                 each => face.advanceWidth(each))))
+        font: hours.font
+    }
+
     Rectangle {
         width: line.implicitWidth + 8
         height: parent.height
@@ -46,14 +54,17 @@ FocusScope {
             shown: picker.activeFocus
         }
 
-        Row {
+        GridLayout {
             id: line
             anchors.centerIn: parent
+            rows: 1
+            columnSpacing: 0
 
             ClockSegment {
                 id: hours
                 focus: true
-                width: Math.max(18, implicitWidth)
+                Layout.column: 1
+                Layout.preferredWidth: face.twoDigits
                 horizontalAlignment: Text.AlignRight
                 text: clock.hourText
                 value: clock.hour
@@ -62,16 +73,19 @@ FocusScope {
                 onStepped: delta => clock.stepHour(delta)
                 take: character => clock.typeHour(character)
                 onActiveFocusChanged: clock.endTyping()
+                Keys.onLeftPressed: if (clock.halfFirst) half.forceActiveFocus(Qt.OtherFocusReason)
                 Keys.onRightPressed: minutes.forceActiveFocus(Qt.OtherFocusReason)
             }
             BodyText {
+                Layout.column: 2
                 topPadding: 1
                 text: clock.separator
                 Accessible.ignored: true
             }
             ClockSegment {
                 id: minutes
-                width: Math.max(18, implicitWidth)
+                Layout.column: 3
+                Layout.preferredWidth: face.twoDigits
                 text: clock.minuteText
                 value: clock.minute
                 accessibleName: picker.accessibleName + " minute"
@@ -79,12 +93,14 @@ FocusScope {
                 take: character => clock.typeMinute(character)
                 onActiveFocusChanged: clock.endTyping()
                 Keys.onLeftPressed: hours.forceActiveFocus(Qt.OtherFocusReason)
-                Keys.onRightPressed: if (half.visible) half.forceActiveFocus(Qt.OtherFocusReason)
+                Keys.onRightPressed: if (clock.halfLast) half.forceActiveFocus(Qt.OtherFocusReason)
             }
             ClockSegment {
                 id: half
+                Layout.column: clock.halfFirst ? 0 : 4
                 visible: clock.twelveHour
-                leftPadding: 4
+                leftPadding: clock.halfFirst ? 1 : 4
+                rightPadding: clock.halfFirst ? 4 : 1
                 Accessible.ignored: !visible
                 text: clock.halfText
                 value: clock.hour < 12 ? 0 : 1
@@ -92,7 +108,8 @@ FocusScope {
                 accessibleName: picker.accessibleName + " " + text
                 onStepped: delta => clock.stepHalf(delta)
                 take: character => clock.typeHalf(character)
-                Keys.onLeftPressed: minutes.forceActiveFocus(Qt.OtherFocusReason)
+                Keys.onLeftPressed: if (clock.halfLast) minutes.forceActiveFocus(Qt.OtherFocusReason)
+                Keys.onRightPressed: if (clock.halfFirst) hours.forceActiveFocus(Qt.OtherFocusReason)
             }
         }
     }

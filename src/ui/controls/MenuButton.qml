@@ -26,11 +26,11 @@ MenuOpener {
     menu: popup
     Accessible.role: Accessible.ButtonMenu
     Accessible.name: text
-    Accessible.description: enabled ? help : Theme.unavailable
+    Accessible.description: enabled && filled ? help : Theme.unavailable
 
     PopupMenu {
         id: popup
-        y: button.height + 3
+        y: button.height + (button.borderless ? 7 : 3)
         width: Math.max(implicitWidth, button.borderless ? 0 : button.width)
         entries: button.entries
         marksColumn: button.marksColumn
@@ -46,6 +46,7 @@ MenuOpener {
     ControlSurface {
         anchors.fill: parent
         visible: !button.borderless
+        enabled: button.filled
         pressed: popup.visible
         hovered: button.hovered
     }

@@ -2,7 +2,8 @@ import QtQuick
 import Velmora
 
 /// The part of a button that opens a menu: on a press, on Space, Return or an arrow; a drag from
-/// the press to a line chooses that line. Without entries it looks disabled and opens nothing.
+/// the press to a line chooses that line, but the shaking of a quick click does not choose the
+/// marked one, which may open under the pointer. Without entries it looks disabled and opens nothing.
 Item {
     id: opener
 
@@ -16,19 +17,27 @@ Item {
         if (filled)
             menu.open();
     }
+    function openByKey(event: KeyEvent) {
+        if (!event.isAutoRepeat)
+            open();
+    }
 
-    activeFocusOnTab: true
+    activeFocusOnTab: filled
     opacity: enabled && filled ? 1 : 0.45
     Accessible.focusable: true
-    Accessible.onPressAction: open()
-    Keys.onSpacePressed: open()
-    Keys.onReturnPressed: open()
-    Keys.onEnterPressed: open()
-    Keys.onDownPressed: open()
-    Keys.onUpPressed: open()
+    Accessible.onPressAction: if (enabled) open()
+    Keys.onSpacePressed: event => openByKey(event)
+    Keys.onReturnPressed: event => openByKey(event)
+    Keys.onEnterPressed: event => openByKey(event)
+    Keys.onDownPressed: event => openByKey(event)
+    Keys.onUpPressed: event => openByKey(event)
 
     HoverHandler { id: hover }
 
+    Timer {
+        id: click
+        interval: Application.styleHints.mouseDoubleClickInterval
+    }
     PointHandler {
         acceptedButtons: Qt.LeftButton
         onPointChanged: {
@@ -38,10 +47,14 @@ Item {
                 opener.menu.track(point.scenePosition);
         }
         onActiveChanged: {
-            if (active)
+            const menu = opener.menu;
+            if (active) {
+                click.restart();
                 opener.open();
-            else if (opener.dragged && opener.menu.highlighted >= 0)
-                opener.menu.pick(opener.menu.highlighted);
+            } else if (opener.dragged && menu.highlighted >= 0
+                       && (menu.highlighted !== menu.markedIndex || !click.running)) {
+                menu.pick(menu.highlighted);
+            }
             opener.dragged = false;
         }
     }

@@ -25,7 +25,7 @@ Item {
     signal pointed
     signal picked
 
-    implicitWidth: separator ? 40 : line.implicitWidth + 24
+    implicitWidth: separator ? 40 : line.implicitWidth + 2 * line.x
     implicitHeight: separator ? 11 : 24
     Accessible.role: separator ? Accessible.Separator : Accessible.MenuItem
     Accessible.name: title
@@ -36,9 +36,9 @@ Item {
 
     HorizontalDivider {
         visible: row.separator
-        x: 10
+        x: line.x
         y: (row.height - height) / 2
-        width: row.fullWidth - 20
+        width: line.width
     }
 
     Rectangle {
@@ -61,10 +61,10 @@ Item {
     RowLayout {
         id: line
         visible: !row.separator
-        x: 8
-        width: row.fullWidth - 24
+        x: row.marksColumn ? 6 : 8
+        width: row.fullWidth - 2 * x
         height: row.height
-        spacing: 6
+        spacing: 5
 
         SymbolIcon {
             Layout.preferredWidth: 14

@@ -20,7 +20,6 @@ Item {
     implicitWidth: line.implicitWidth
     implicitHeight: Math.max(Theme.controlHeight, line.implicitHeight)
     activeFocusOnTab: true
-    opacity: enabled ? 1 : 0.45
     Accessible.role: Accessible.SpinBox
     Accessible.description: enabled ? "" : Theme.unavailable
     Accessible.name: text
@@ -40,6 +39,7 @@ Item {
             Accessible.ignored: true
         }
         StepArrows {
+            opacity: enabled ? 1 : 0.45
             canIncrease: stepper.value < stepper.to
             canDecrease: stepper.value > stepper.from
             onStepped: delta => stepper.changed(stepper.value + delta)

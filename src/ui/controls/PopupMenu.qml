@@ -21,7 +21,7 @@ T.Popup {
     signal sideways(int delta)
 
     function step(delta: int) {
-        let next = highlighted + delta;
+        let next = highlighted < 0 && delta < 0 ? rows.count - 1 : highlighted + delta;
         while (next >= 0 && next < rows.count && !(rows.itemAt(next) as MenuRow).selectable)
             next += delta;
         if (next >= 0 && next < rows.count)
@@ -38,6 +38,10 @@ T.Popup {
         close();
         if (index >= 0)
             chosen(index);
+    }
+    function pickByKey(event: KeyEvent) {
+        if (!event.isAutoRepeat)
+            pick(highlighted);
     }
     function track(scene: point) {
         const place = column.mapFromItem(null, scene.x, scene.y);
@@ -91,11 +95,11 @@ T.Popup {
         interactive: contentHeight > height
         clip: interactive
         Accessible.role: Accessible.PopupMenu
-        Keys.onUpPressed: menu.step(menu.highlighted < 0 ? rows.count : -1)
+        Keys.onUpPressed: menu.step(-1)
         Keys.onDownPressed: menu.step(1)
-        Keys.onReturnPressed: menu.pick(menu.highlighted)
-        Keys.onEnterPressed: menu.pick(menu.highlighted)
-        Keys.onSpacePressed: menu.pick(menu.highlighted)
+        Keys.onReturnPressed: event => menu.pickByKey(event)
+        Keys.onEnterPressed: event => menu.pickByKey(event)
+        Keys.onSpacePressed: event => menu.pickByKey(event)
         Keys.onLeftPressed: menu.sideways(-1)
         Keys.onRightPressed: menu.sideways(1)
         Keys.onTabPressed: {}

@@ -27,18 +27,25 @@ T.AbstractButton {
                                       : controlSize === PushButton.Small
                                         ? Theme.smallControlHeight : Theme.controlHeight
 
+    function takeReturn(event: KeyEvent): bool {
+        const plain = (event.modifiers & ~Qt.KeypadModifier) === Qt.NoModifier;
+        if (plain && !event.isAutoRepeat)
+            clicked();
+        return plain;
+    }
+
     implicitWidth: Math.max(framed && text.length > 0 ? 64 : 0,
                             face.implicitWidth + leftPadding + rightPadding)
     implicitHeight: framed ? faceHeight : Math.max(16, face.implicitHeight + 2)
-    leftPadding: framed ? (controlSize === PushButton.Small ? 10 : 14) : 0
+    leftPadding: framed ? (controlSize === PushButton.Small ? 8 : 14) : 0
     rightPadding: leftPadding
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
     opacity: enabled || prominent ? 1 : 0.45
     Accessible.name: text
     Accessible.description: enabled ? help : Theme.unavailable
-    Keys.onReturnPressed: event => event.isAutoRepeat ? undefined : clicked()
-    Keys.onEnterPressed: event => event.isAutoRepeat ? undefined : clicked()
+    Keys.onReturnPressed: event => event.accepted = takeReturn(event)
+    Keys.onEnterPressed: event => event.accepted = takeReturn(event)
 
     HoverHandler {
         cursorShape: button.kind === PushButton.Link ? Qt.PointingHandCursor : Qt.ArrowCursor
@@ -100,7 +107,8 @@ T.AbstractButton {
             anchors.fill: parent
             visible: button.framed
             prominent: button.prominent && button.enabled
-            pressed: button.down || (button.prominent && !button.enabled)
+            flat: button.prominent && !button.enabled
+            pressed: button.down
             hovered: button.hovered
         }
         FocusRing {

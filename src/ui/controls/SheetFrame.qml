@@ -36,7 +36,7 @@ FocusScope {
     Keys.onEnterPressed: event => event.accepted = takeReturn(event)
     Keys.onPressed: event => {
         event.accepted = event.matches(StandardKey.Cancel);
-        if (event.accepted)
+        if (event.accepted && !event.isAutoRepeat)
             cancelled();
     }
 

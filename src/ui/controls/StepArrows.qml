@@ -32,7 +32,7 @@ Item {
             anchors.centerIn: parent
             name: half.symbol
             size: 9
-            opacity: half.enabled ? 1 : 0.35
+            opacity: half.enabled || !arrows.enabled ? 1 : 0.35
         }
         background: Rectangle {
             radius: 4

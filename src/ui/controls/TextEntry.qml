@@ -26,7 +26,7 @@ T.TextField {
     selectByMouse: true
     font.family: Theme.fontFamily
     font.pixelSize: small ? Theme.caption : Theme.body
-    opacity: enabled ? 1 : 0.45
+    opacity: enabled || plain ? 1 : 0.45
     Accessible.name: accessibleName
     Accessible.description: enabled ? "" : Theme.unavailable
     onTextEdited: field.edited(field.text)
