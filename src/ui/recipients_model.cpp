@@ -61,7 +61,8 @@ void RecipientsModel::followFilter() {
 
 void RecipientsModel::followRows() {
     const std::vector<QString> wanted = visibleKeys();
-    // The view may hear of these rows together with the next ones: where it stood means nothing then.
+    // The view may hear of these rows together with the next ones: where it stood means nothing
+    // then.
     if (wanted.empty())
         setTopRow(-1);
     for (const RowChange& step : rowChanges(rows_, wanted, topRow_)) {

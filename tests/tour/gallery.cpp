@@ -193,7 +193,8 @@ void pausedForFailures(Stage& stage) {
 void settings(Stage& stage) {
     stage.openDinner();
     stage.model().testPhone = u"(212) 555-0110"_s;
-    stage.model().testResult = u"Sent by iMessage from (212) 555-0100. That matches your sending number."_s;
+    stage.model().testResult =
+        u"Sent by iMessage from (212) 555-0100. That matches your sending number."_s;
     stage.model().openSettings();
     stage.show(u"33-settings"_s, stage.window(u"Settings"_s));
     stage.model().setSenderNumber(u"+13125550199"_s);

@@ -181,7 +181,7 @@ void Stage::show(const QString& name, QWindow* other) {
 }
 
 void Stage::picture(const QString& name, QQuickWindow& window) {
-    // Everything is laid out anew, and no time goes by. A display tells of each size in its own time;
+    // Everything is laid out anew, and no time goes by. A display tells of each size when it likes;
     // until it has, the window goes back to an earlier one.
     for (int turn = 0; turn < 5; ++turn)
         QGuiApplication::sync();
