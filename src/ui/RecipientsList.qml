@@ -44,6 +44,12 @@ ListView {
     Accessible.name: "People"
     T.ScrollBar.vertical: SlimScrollBar {}
 
+    // A row that grows while its note is typed: after the list has laid it out.
+    Timer {
+        id: revealing
+        interval: 0
+        onTriggered: list.goTo(list.currentIndex)
+    }
     RedrawnArea {
         parent: list
         anchors.fill: parent
@@ -82,7 +88,7 @@ ListView {
         width: list.width
         recipients: list.recipients
         onActivated: list.currentIndex = index
-        onWritten: Qt.callLater(list.positionViewAtIndex, index, ListView.Contain)
+        onWritten: revealing.restart()
         onTaken: list.forceActiveFocus(Qt.OtherFocusReason)
     }
 }

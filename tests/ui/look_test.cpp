@@ -163,11 +163,13 @@ TEST(Theme, TextStandsOutOnEverything) {
 TEST(FixedDigits, TakeTheSameWidth) {
     FixedDigits narrow;
     FixedDigits wide;
+    narrow.setPixelSize(12);
+    wide.setPixelSize(12);
     narrow.setText(QStringLiteral("1:11 AM"));
     wide.setText(QStringLiteral("8:40 AM"));
     EXPECT_GT(narrow.implicitWidth(), 0);
     EXPECT_EQ(narrow.implicitWidth(), wide.implicitWidth());
-    wide.setPixelSize(wide.pixelSize() * 2);
+    wide.setPixelSize(24);
     EXPECT_GT(wide.implicitWidth(), narrow.implicitWidth() * 1.5);
     QImage image(200, 50, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
