@@ -1,11 +1,11 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Controls.Basic
 import QtQml
+import QtQuick.Templates as T
 import Velmora
 
 /// The main window: menus, content, sheets and the alert; and the windows that belong to it.
-ApplicationWindow {
+T.ApplicationWindow {
     id: root
 
     required property Presentation presentation

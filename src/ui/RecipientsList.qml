@@ -54,7 +54,7 @@ ListView {
         parent: list
         anchors.fill: parent
         z: 1
-        position: list.contentY
+        moved: Qt.point(list.revision, list.contentY)
     }
 
     Keys.onUpPressed: goTo(currentIndex - 1)

@@ -13,23 +13,15 @@ bool isDigit(QChar character) {
     return character >= u'0' && character <= u'9';
 }
 
-/// Calls `visit` with each digit, and with each run of other characters, from left to right.
-template <typename Visit>
-void forEachPiece(const QString& text, Visit visit) {
-    const QStringView all(text);
-    for (qsizetype start = 0; start < all.size();) {
-        qsizetype end = start + 1;
-        while (!isDigit(all[start]) && end < all.size() && !isDigit(all[end]))
-            ++end;
-        visit(all.sliced(start, end - start).toString(), isDigit(all[start]));
-        start = end;
-    }
+// Latin letters, digits, punctuation and spaces: a glyph each, side by side.
+bool isPlain(QChar character) {
+    return (character >= u' ' && character <= u'\u024F') || character == u'\u202F';
 }
 
 }  // namespace
 
 FixedDigits::FixedDigits(QQuickItem* parent) : QQuickPaintedItem(parent) {
-    measure();
+    useFont(font_);
 }
 
 void FixedDigits::setText(const QString& text) {
@@ -51,50 +43,65 @@ void FixedDigits::setColor(const QColor& color) {
 void FixedDigits::setFontFamily(const QString& family) {
     QFont font(font_);
     font.setFamily(family);
-    useFont(font);
+    if (font != font_)
+        useFont(font);
 }
 
 void FixedDigits::setPixelSize(int pixelSize) {
     QFont font(font_);
     font.setPixelSize(std::max(1, pixelSize));
-    useFont(font);
+    if (font != font_)
+        useFont(font);
 }
 
 void FixedDigits::useFont(const QFont& font) {
-    if (font == font_)
-        return;
     font_ = font;
+    face_ = QRawFont::fromFont(font_);
+    const auto digits = face_.glyphIndexesForString(QStringLiteral("0123456789"));
+    digitWidth_ = 0;
+    for (const QPointF& advance : face_.advancesForGlyphIndexes(digits))
+        digitWidth_ = std::max(digitWidth_, advance.x());
     measure();
     Q_EMIT fontChanged();
 }
 
 void FixedDigits::measure() {
     const QFontMetricsF metrics(font_);
-    digitWidth_ = 0;
-    for (char16_t digit = u'0'; digit <= u'9'; ++digit)
-        digitWidth_ = std::max(digitWidth_, metrics.horizontalAdvance(QChar(digit)));
-    double width = 0;
-    forEachPiece(text_, [&](const QString& piece, bool digit) {
-        width += digit ? digitWidth_ : metrics.horizontalAdvance(piece);
-    });
-    // Whole pixels, as the toolkit's own texts have them: the picture is then never drawn between
-    // two.
-    setImplicitSize(std::ceil(width), std::ceil(metrics.height()));
+    const std::optional<double> width = placeGlyphs();
+    // Whole pixels, as the toolkit's own texts have them: the picture is never drawn between two.
+    setImplicitSize(std::ceil(width ? *width : metrics.horizontalAdvance(text_)),
+                    std::ceil(metrics.height()));
     setBaselineOffset(std::ceil(metrics.ascent()));
     update();
 }
 
-void FixedDigits::paint(QPainter* painter) {
-    const QFontMetricsF metrics(font_);
-    painter->setFont(font_);
-    painter->setPen(color_);
+std::optional<double> FixedDigits::placeGlyphs() {
+    glyphs_.clear();
+    const QList<quint32> indexes = face_.glyphIndexesForString(text_);
+    if (!std::ranges::all_of(text_, isPlain) || indexes.size() != text_.size() ||
+        indexes.contains(0U))
+        return std::nullopt;
+    const QList<QPointF> advances = face_.advancesForGlyphIndexes(indexes);
+    QList<QPointF> places;
     double x = 0;
-    forEachPiece(text_, [&](const QString& piece, bool digit) {
-        const double width = metrics.horizontalAdvance(piece);
-        const double room = digit ? digitWidth_ : width;
-        painter->drawText(QPointF(x + ((room - width) / 2), baselineOffset()), piece);
+    for (qsizetype place = 0; place < text_.size(); ++place) {
+        const double width = advances[place].x();
+        const double room = isDigit(text_[place]) ? digitWidth_ : width;
+        places.append({x + ((room - width) / 2), 0});
         x += room;
-    });
+    }
+    glyphs_.setRawFont(face_);
+    glyphs_.setGlyphIndexes(indexes);
+    glyphs_.setPositions(places);
+    return x;
+}
+
+void FixedDigits::paint(QPainter* painter) {
+    painter->setPen(color_);
+    if (!glyphs_.isEmpty())
+        return painter->drawGlyphRun({0, baselineOffset()}, glyphs_);
+    painter->setFont(font_);
+    painter->drawText(QPointF(0, baselineOffset()), text_);
 }
 
 }  // namespace velmora

@@ -2,14 +2,18 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QColor>
+#include <QGlyphRun>
 #include <QQuickPaintedItem>
+#include <QRawFont>
 #include <QString>
+#include <optional>
 
 namespace velmora {
 
-/// One line of text whose digits all take the same width, so that numbers stand under each other
-/// and don't jump while they count. One item however long the text: a row of single characters
-/// would slow the list down.
+/// One line of text whose digits 0 to 9 all take the same width, so that numbers stand under each
+/// other and don't jump while they count. Text that takes more than a glyph for each character,
+/// from left to right, is written as usual. One item however long the text: a row of single
+/// characters would slow the list down.
 class FixedDigits : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -28,6 +32,7 @@ class FixedDigits : public QQuickPaintedItem {
     [[nodiscard]] QString fontFamily() const { return font_.family(); }
     void setFontFamily(const QString& family);
     [[nodiscard]] int pixelSize() const { return font_.pixelSize(); }
+    /// At least 1.
     void setPixelSize(int pixelSize);
 
     void paint(QPainter* painter) override;
@@ -40,11 +45,15 @@ class FixedDigits : public QQuickPaintedItem {
   private:
     void useFont(const QFont& font);
     void measure();
+    /// Places the glyphs and gives their width; nothing for text that is written as usual.
+    [[nodiscard]] std::optional<double> placeGlyphs();
 
     QString text_;
     QColor color_;
     QFont font_;
+    QRawFont face_;
     double digitWidth_ = 0;
+    QGlyphRun glyphs_;  // empty for text that is written as usual
 };
 
 }  // namespace velmora

@@ -2,7 +2,6 @@
 
 #include <QFontDatabase>
 #include <QGuiApplication>
-#include <QQuickStyle>
 
 #include "ui/drawn_look.h"
 #include "ui/symbol_image_provider.h"
@@ -41,7 +40,6 @@ MainWindow::MainWindow(AppModel& model, std::unique_ptr<NativeLook> look, Motion
         qputenv("QT_QPA_UPDATE_IDLE_TIME", updatePause);
     }
     qml_register_types_Velmora();
-    QQuickStyle::setStyle(QStringLiteral("Basic"));
     useFont(look->fontFamily());
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     auto* appearance = engine_.singletonInstance<SystemAppearance*>(

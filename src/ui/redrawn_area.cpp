@@ -10,12 +10,12 @@ RedrawnArea::RedrawnArea(QQuickItem* parent) : QQuickItem(parent) {
     setFlag(ItemHasContents);
 }
 
-void RedrawnArea::setPosition(double position) {
-    if (position == position_)
+void RedrawnArea::setMoved(QPointF moved) {
+    if (moved == moved_)
         return;
-    position_ = position;
+    moved_ = moved;
     update();
-    Q_EMIT positionChanged();
+    Q_EMIT movedChanged();
 }
 
 QSGNode* RedrawnArea::updatePaintNode(QSGNode* node, UpdatePaintNodeData* /*data*/) {

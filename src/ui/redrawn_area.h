@@ -11,22 +11,22 @@ namespace velmora {
 class RedrawnArea : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(double position READ position WRITE setPosition NOTIFY positionChanged)
+    Q_PROPERTY(QPointF moved READ moved WRITE setMoved NOTIFY movedChanged)
 
   public:
     explicit RedrawnArea(QQuickItem* parent = nullptr);
 
-    [[nodiscard]] double position() const { return position_; }
-    void setPosition(double position);
+    [[nodiscard]] QPointF moved() const { return moved_; }
+    void setMoved(QPointF moved);
 
   Q_SIGNALS:
-    void positionChanged();
+    void movedChanged();
 
   protected:
     QSGNode* updatePaintNode(QSGNode* node, UpdatePaintNodeData* data) override;
 
   private:
-    double position_ = 0;
+    QPointF moved_;
 };
 
 }  // namespace velmora

@@ -11,23 +11,32 @@ namespace {
 constexpr qsizetype mostSteps = 200;
 constexpr qsizetype keptAround = 80;  // more than a tall display shows
 
+// Where each row of one list stands in the other; -1 where it does not.
+std::vector<qsizetype> findPlaces(const std::vector<QString>& before,
+                                  const std::vector<QString>& after) {
+    QHash<QStringView, qsizetype> places;
+    places.reserve(std::ssize(after));
+    for (qsizetype place = 0; place < std::ssize(after); ++place)
+        places.insert(after[static_cast<size_t>(place)], place);
+    std::vector<qsizetype> found;
+    found.reserve(before.size());
+    for (const QString& row : before)
+        found.push_back(places.value(row, -1));
+    return found;
+}
+
 // Which rows stay, in each of the two lists.
 struct Staying {
     std::vector<bool> before;
     std::vector<bool> after;
 };
 
-Staying findStaying(const std::vector<QString>& before, const std::vector<QString>& after,
-                    qsizetype from, qsizetype to) {
-    QHash<QStringView, qsizetype> places;
-    places.reserve(std::ssize(after));
-    for (qsizetype place = 0; place < std::ssize(after); ++place)
-        places.insert(after[static_cast<size_t>(place)], place);
-
-    Staying staying{std::vector<bool>(before.size()), std::vector<bool>(after.size())};
+Staying findStaying(const std::vector<qsizetype>& places, size_t countAfter, qsizetype from,
+                    qsizetype to) {
+    Staying staying{std::vector<bool>(places.size()), std::vector<bool>(countAfter)};
     qsizetype last = -1;
     for (qsizetype row = from; row < to; ++row) {
-        const qsizetype place = places.value(before[static_cast<size_t>(row)], -1);
+        const qsizetype place = places[static_cast<size_t>(row)];
         if (place <= last)
             continue;
         staying.before[static_cast<size_t>(row)] = true;
@@ -62,10 +71,12 @@ std::vector<RowChange> rowChanges(const std::vector<QString>& before,
                                   const std::vector<QString>& after, qsizetype kept) {
     if (before == after)
         return {};
-    std::vector<RowChange> steps = stepsOf(findStaying(before, after, 0, std::ssize(before)));
+    const std::vector<qsizetype> places = findPlaces(before, after);
+    std::vector<RowChange> steps =
+        stepsOf(findStaying(places, after.size(), 0, std::ssize(before)));
     if (std::ssize(steps) <= mostSteps)
         return steps;
-    return stepsOf(findStaying(before, after, std::max<qsizetype>(kept - keptAround, 0),
+    return stepsOf(findStaying(places, after.size(), std::max<qsizetype>(kept - keptAround, 0),
                                std::min<qsizetype>(kept + keptAround, std::ssize(before))));
 }
 
