@@ -23,6 +23,20 @@ if(VELMORA_SANITIZE)
   target_link_options(velmora_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# velmora_look_for_types(<target> <sources>)
+# Lets moc look again when a file has come or gone since it last did: a new file alone does not.
+function(velmora_look_for_types target sources)
+  set(seen_file ${CMAKE_CURRENT_BINARY_DIR}/${target}_sources.txt)
+  set(seen "")
+  if(EXISTS ${seen_file})
+    file(READ ${seen_file} seen)
+  endif()
+  if(NOT seen STREQUAL sources)
+    file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp)
+    file(WRITE ${seen_file} "${sources}")
+  endif()
+endfunction()
+
 # velmora_room(<name> [USES <room>...] [LINK <library>...])
 # The static library velmora_<name> of all sources in the current folder. USES names the rooms that it
 # may include; LINK the libraries of others.
@@ -31,6 +45,7 @@ function(velmora_room name)
   file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
   add_library(velmora_${name} STATIC ${sources})
   set_target_properties(velmora_${name} PROPERTIES LINKER_LANGUAGE CXX)
+  velmora_look_for_types(velmora_${name} "${sources}")
   list(TRANSFORM ROOM_USES PREPEND velmora_)
   target_link_libraries(velmora_${name} PUBLIC velmora_options ${ROOM_USES} Qt6::Core ${ROOM_LINK})
   if(NOT name STREQUAL core)

@@ -59,15 +59,15 @@ QString logText(const QString& path) {
     return bytes && bytes->isValidUtf8() ? QString::fromUtf8(*bytes) : QString();
 }
 
-// The stem as it is where a file can have that name; else its beginning and what only this run name
+// The stem as it is where a file can have that name; else its beginning and what only this stem
 // gives.
-QString fittingStem(const QString& stem, const QString& batch) {
+QString fittingStem(const QString& stem) {
     // File systems take 255 bytes: ".csv" is added to them, and ".XXXXXX" while the file is
     // replaced.
     constexpr qsizetype longest = 244;
     if (QFile::encodeName(stem).size() <= longest)
         return stem;
-    const QByteArray name = QCryptographicHash::hash(batch.toUtf8(), QCryptographicHash::Sha256);
+    const QByteArray name = QCryptographicHash::hash(stem.toUtf8(), QCryptographicHash::Sha256);
     const QString ending = u'-' + QString::fromLatin1(name.toHex().first(16));
     QString beginning = stem.left(longest);
     while (beginning.back().isHighSurrogate() ||
@@ -150,7 +150,7 @@ QSet<QString> SendLog::alreadySent(const QString& batch) {
 }
 
 QString SendLog::logFile(const QString& batch) {
-    return folder_.logs() + u'/' + fittingStem(safeFileStem(batch), batch) + u".csv"_s;
+    return folder_.logs() + u'/' + fittingStem(safeFileStem(batch)) + u".csv"_s;
 }
 
 QString safeFileStem(const QString& batch) {

@@ -35,7 +35,7 @@ class SendLog {
     [[nodiscard]] QSet<QString> alreadySent(const QString& batch);
 
     /// The path of the run's file, named by safeFileStem. Where that is longer than file systems
-    /// take, a hash of the run name stands for its end.
+    /// take, a hash of it stands for its end.
     [[nodiscard]] QString logFile(const QString& batch);
 
   private:

@@ -18,7 +18,7 @@ Item {
 
     BodyText {
         id: nameText
-        width: Math.min(implicitWidth, line.room)
+        width: Math.max(0, Math.min(implicitWidth, line.room))
         text: line.name
         font.pixelSize: Theme.headline
         font.weight: Font.DemiBold

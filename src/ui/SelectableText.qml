@@ -14,10 +14,16 @@ FocusScope {
     /// The pointer has put the keyboard here.
     signal entered
 
+    /// Whether the keyboard is in the passage's menu.
+    property bool lent: false
     readonly property TextEdit selection: maker.count > 0 ? maker.itemAt(0) as TextEdit : null
     readonly property bool selects: selection !== null && selection.selectedText.length > 0
 
     implicitHeight: shown.implicitHeight
+    // Of the two below one is always transparent, which counts as gone.
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
+    Accessible.ignored: text.length === 0
 
     HoverHandler {
         id: pointer
@@ -33,12 +39,13 @@ FocusScope {
         text: passage.text
         color: passage.color
         font.pixelSize: passage.fontSize
+        Accessible.ignored: true
     }
     // Made when the pointer comes, for it lays the text out a second time; it has the mouse then, and
     // is seen while something is selected.
     Repeater {
         id: maker
-        model: pointer.hovered || passage.activeFocus ? 1 : 0
+        model: pointer.hovered || passage.activeFocus || passage.lent ? 1 : 0
 
         TextEdit {
             id: selection
@@ -70,6 +77,7 @@ FocusScope {
             TextMenu {
                 id: menu
                 field: selection
+                onShownChanged: passage.lent = shown
             }
         }
     }

@@ -10,6 +10,14 @@ Item {
     required property int titleBottom
 
     readonly property MainWindowModel window: presentation.window
+    readonly property bool inFront: Window.active
+
+    function keepKeyboard() {
+        if (inFront && alert.shown && !alert.activeFocus)
+            alert.forceActiveFocus();
+    }
+
+    onInFrontChanged: keepKeyboard()
 
     component HostedSheet: SheetPopup {
         titleBottom: host.titleBottom
@@ -41,11 +49,12 @@ Item {
         }
     }
     HostedSheet {
+        id: alert
         z: 1
         covered: false
         shown: host.window.alertShown
         // A sheet that opens under the alert takes the keyboard with it.
-        onActiveFocusChanged: if (shown && !activeFocus && parent.Window.active) forceActiveFocus()
+        onActiveFocusChanged: host.keepKeyboard()
         sheet: AlertBox {
             title: "Velmora"
             message: host.window.alertText

@@ -37,6 +37,7 @@ FocusScope {
     }
     MouseArea {
         anchors.fill: parent
+        acceptedButtons: Qt.AllButtons
         visible: stage.leaving
     }
 }

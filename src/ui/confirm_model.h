@@ -46,7 +46,7 @@ class ConfirmModel final : public QObject {
     /// Closes the sheet; nothing is sent.
     Q_INVOKABLE void cancel();
     /// Closes the sheet and starts the run, or has the alert say why it does not start. Does
-    /// nothing when no run is to be confirmed, and none for the length of a double click after
+    /// nothing when no run is to be confirmed, and nothing for the length of a double click after
     /// there is one: the second click on the send button starts nothing unread.
     Q_INVOKABLE void startSending();
 

@@ -1,7 +1,9 @@
 #include "ui/fixed_digits.h"
 
 #include <QFontMetricsF>
+#include <QGlyphRun>
 #include <QPainter>
+#include <QRawFont>
 #include <algorithm>
 #include <cmath>
 
@@ -16,6 +18,14 @@ bool isDigit(QChar character) {
 // Latin letters, digits, punctuation and spaces: a glyph each, side by side.
 bool isPlain(QChar character) {
     return (character >= u' ' && character <= u'\u024F') || character == u'\u202F';
+}
+
+double widestDigit(const QRawFont& face) {
+    double widest = 0;
+    for (const QPointF& advance :
+         face.advancesForGlyphIndexes(face.glyphIndexesForString(QStringLiteral("0123456789"))))
+        widest = std::max(widest, advance.x());
+    return widest;
 }
 
 }  // namespace
@@ -56,11 +66,6 @@ void FixedDigits::setPixelSize(int pixelSize) {
 
 void FixedDigits::useFont(const QFont& font) {
     font_ = font;
-    face_ = QRawFont::fromFont(font_);
-    const auto digits = face_.glyphIndexesForString(QStringLiteral("0123456789"));
-    digitWidth_ = 0;
-    for (const QPointF& advance : face_.advancesForGlyphIndexes(digits))
-        digitWidth_ = std::max(digitWidth_, advance.x());
     measure();
     Q_EMIT fontChanged();
 }
@@ -76,32 +81,36 @@ void FixedDigits::measure() {
 }
 
 std::optional<double> FixedDigits::placeGlyphs() {
-    glyphs_.clear();
-    const QList<quint32> indexes = face_.glyphIndexesForString(text_);
-    if (!std::ranges::all_of(text_, isPlain) || indexes.size() != text_.size() ||
-        indexes.contains(0U))
+    places_.clear();
+    const QRawFont face = QRawFont::fromFont(font_);
+    glyphs_ = face.glyphIndexesForString(text_);
+    if (!std::ranges::all_of(text_, isPlain) || glyphs_.size() != text_.size() ||
+        glyphs_.contains(0U))
         return std::nullopt;
-    const QList<QPointF> advances = face_.advancesForGlyphIndexes(indexes);
-    QList<QPointF> places;
+    const QList<QPointF> advances = face.advancesForGlyphIndexes(glyphs_);
+    const double digitWidth = widestDigit(face);
     double x = 0;
     for (qsizetype place = 0; place < text_.size(); ++place) {
         const double width = advances[place].x();
-        const double room = isDigit(text_[place]) ? digitWidth_ : width;
-        places.append({x + ((room - width) / 2), 0});
+        const double room = isDigit(text_[place]) ? digitWidth : width;
+        places_.append({x + ((room - width) / 2), 0});
         x += room;
     }
-    glyphs_.setRawFont(face_);
-    glyphs_.setGlyphIndexes(indexes);
-    glyphs_.setPositions(places);
     return x;
 }
 
 void FixedDigits::paint(QPainter* painter) {
     painter->setPen(color_);
-    if (!glyphs_.isEmpty())
-        return painter->drawGlyphRun({0, baselineOffset()}, glyphs_);
-    painter->setFont(font_);
-    painter->drawText(QPointF(0, baselineOffset()), text_);
+    if (places_.isEmpty()) {
+        painter->setFont(font_);
+        painter->drawText(QPointF(0, baselineOffset()), text_);
+        return;
+    }
+    QGlyphRun run;
+    run.setRawFont(QRawFont::fromFont(font_));
+    run.setGlyphIndexes(glyphs_);
+    run.setPositions(places_);
+    painter->drawGlyphRun({0, baselineOffset()}, run);
 }
 
 }  // namespace velmora

@@ -2,9 +2,8 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QColor>
-#include <QGlyphRun>
+#include <QPointF>
 #include <QQuickPaintedItem>
-#include <QRawFont>
 #include <QString>
 #include <optional>
 
@@ -51,9 +50,10 @@ class FixedDigits : public QQuickPaintedItem {
     QString text_;
     QColor color_;
     QFont font_;
-    QRawFont face_;
-    double digitWidth_ = 0;
-    QGlyphRun glyphs_;  // empty for text that is written as usual
+    // What stands where; no places for text that is written as usual. The face belongs to one
+    // thread, and is asked for anew on the one that draws.
+    QList<quint32> glyphs_;
+    QList<QPointF> places_;
 };
 
 }  // namespace velmora

@@ -63,6 +63,8 @@ double rowOpacity(const Recipient& recipient, bool checked) {
 
 QString spokenRow(const Recipient& recipient, bool checked) {
     QStringList words{displayName(recipient)};
+    if (const QString company = companyBesideName(recipient); !company.isEmpty())
+        words.append(company);
     if (recipient.alreadySent)
         words.append(u"already sent"_s);
     else if (recipient.usable)

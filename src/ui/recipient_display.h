@@ -33,7 +33,7 @@ namespace velmora {
 /// Faint for a person who could be checked and is not.
 [[nodiscard]] double rowOpacity(const Recipient& recipient, bool checked);
 
-/// The whole row in words: the name, whether checked, sent or blocked, and the issue.
+/// The whole row in words: the name, the company, whether checked, sent or blocked, and the issue.
 [[nodiscard]] QString spokenRow(const Recipient& recipient, bool checked);
 
 }  // namespace velmora

@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-/// Lies unseen over things that move together, and is itself drawn anew whenever `position`
+/// Lies unseen over things that move together, and is itself drawn anew whenever `moved`
 /// changes. The software renderer then finds one rectangle to draw first; without it, it adds up
 /// the two places of each text that moved, which takes longer than drawing them.
 class RedrawnArea : public QQuickItem {

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <QClipboard>
 #include <QGuiApplication>
 #include <QTest>
 
@@ -355,7 +356,7 @@ TEST_F(WindowTest, AnotherListOpensAtItsBeginning) {
 }
 
 // Catches a note that loses the keyboard or its row while it is typed, and keys that act on
-// another person than the one just clicked.
+// another person than the one just clicked; a passage's menu that leaves before it is used.
 TEST_F(WindowTest, NotesAndKeysStayWithTheirPerson) {
     withFriends().setCurrentTemplate(u"Hi {first_name}{custom_note}"_s);
     WindowDriver& user = show();
@@ -370,6 +371,14 @@ TEST_F(WindowTest, NotesAndKeysStayWithTheirPerson) {
     user.key(Qt::Key_Escape);
     user.key(Qt::Key_Space);
     EXPECT_TRUE(model->selection().isEmpty());
+    for (const QString& command : {u"Select All"_s, u"Copy"_s}) {
+        const QPoint preview = user.place(u"Hi Bob"_s);
+        QTest::mouseMove(&user.window(), preview);
+        QTest::mouseClick(&user.window(), Qt::RightButton, {}, preview);
+        EXPECT_TRUE(user.click(command, QAccessible::MenuItem));
+    }
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"Hi Bob");
+    user.click(u"Hi Joanne See you there"_s);
     user.key(Qt::Key_Up);
     user.key(Qt::Key_Space);
     EXPECT_EQ(model->selection(), QSet<QString>{u"bob"_s});
