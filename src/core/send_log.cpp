@@ -76,6 +76,11 @@ QString fittingStem(const QString& stem) {
     return beginning + ending;
 }
 
+// How many entries the text can have. A row has 8 characters or more; line feeds alone are none.
+qsizetype entryCount(const QString& text) {
+    return std::min(text.count(u'\n'), text.size() / 8);
+}
+
 // Calls `take` with the reader at each row of the text that is an entry.
 template <class Take>
 void readEntryRows(const QString& text, const Take& take) {
@@ -130,8 +135,7 @@ std::vector<LogEntry> SendLog::load(const QString& batch) {
     const QString text = logText(logFile(batch));
     std::vector<LogEntry> entries;
     const LogEntry none;
-    // A row has 8 characters or more; line feeds alone are no entries.
-    entries.reserve(static_cast<size_t>(std::min(text.count(u'\n'), text.size() / 8)));
+    entries.reserve(static_cast<size_t>(entryCount(text)));
     readEntryRows(text, [&](const CSVReader& row) {
         const auto time = parseLogTime(row.field(Column::time));
         entries.push_back(entryOf(row, entries.empty() ? none : entries.back()));
@@ -141,12 +145,14 @@ std::vector<LogEntry> SendLog::load(const QString& batch) {
 }
 
 QSet<QString> SendLog::alreadySent(const QString& batch) {
-    QStringList phones;
-    readEntryRows(logText(logFile(batch)), [&](const CSVReader& row) {
+    const QString text = logText(logFile(batch));
+    QSet<QString> phones;
+    phones.reserve(entryCount(text));
+    readEntryRows(text, [&](const CSVReader& row) {
         if (isSentStatus(row.field(Column::status)))
-            phones += row.field(Column::phone).toString();
+            phones.insert(row.field(Column::phone).toString());
     });
-    return {phones.begin(), phones.end()};
+    return phones;
 }
 
 QString SendLog::logFile(const QString& batch) {
