@@ -317,7 +317,7 @@ TEST_F(WindowTest, DoubleClicksDoNoMoreThanClicks) {
 }
 
 // Catches a search that the list or the bulk buttons do not follow, that Escape keeps, or that the
-// list loses by being chosen again.
+// list loses by being chosen again; a chosen list that cannot be let go by its row.
 TEST_F(WindowTest, SearchLimitsWhatIsSelected) {
     withFriends();
     WindowDriver& user = show();
@@ -335,6 +335,11 @@ TEST_F(WindowTest, SearchLimitsWhatIsSelected) {
     EXPECT_TRUE(user.until([&] { return !user.shows(u"Ann Lee"_s); }));
     EXPECT_TRUE(user.click(u"Clear Shown"_s));
     EXPECT_TRUE(user.until([&] { return user.shows(u"Nobody selected yet"_s); }));
+    const QPoint row = user.place(u"Friends, 3"_s);
+    QTest::mouseClick(&user.window(), Qt::LeftButton, Qt::ShiftModifier, row);
+    EXPECT_TRUE(model->config().selectedGroupID);
+    QTest::mouseClick(&user.window(), Qt::LeftButton, command, row);
+    EXPECT_FALSE(model->config().selectedGroupID) << "the selection can be cleared";
 }
 
 // Catches a list that opens where the one before it stood, its first people out of sight.
