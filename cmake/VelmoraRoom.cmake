@@ -23,6 +23,13 @@ if(VELMORA_SANITIZE)
   target_link_options(velmora_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# An allocator that keeps what was freed for the next of its size. Merely linked, it takes the place of the C library's,
+# which spends a quarter of a run's time on it: every opening of the history is hundreds of small pieces, all freed a
+# moment later. Not under the sanitizers, which watch every allocation with one of their own.
+if(NOT APPLE AND NOT VELMORA_SANITIZE)
+  target_link_libraries(velmora_options INTERFACE mimalloc)
+endif()
+
 # velmora_look_for_types(<target> <sources>)
 # Lets moc look again when a file has come or gone since it last did: a new file alone does not.
 function(velmora_look_for_types target sources)

@@ -6,10 +6,6 @@
 #include <ranges>
 #include <utility>
 
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
-
 namespace velmora {
 
 namespace {
@@ -93,10 +89,6 @@ void AddressBook::keep(std::shared_ptr<const Book> book, QByteArray bytes) {
 void AddressBook::forget() {
     book_.reset();
     bytes_.clear();
-#ifdef __GLIBC__
-    // The pieces of a large file would stay with the program, among what it has kept of them.
-    malloc_trim(0);
-#endif
 }
 
 std::expected<void, ContactsError> AddressBook::enumerateContacts(

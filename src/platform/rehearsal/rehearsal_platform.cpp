@@ -6,25 +6,13 @@
 #include "platform/rehearsal/messages_application.h"
 #include "platform/rehearsal/rehearsal_desktop.h"
 
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
-
 namespace velmora {
 
 namespace {
 
-// The history is opened anew for each reading, which is hundreds of small allocations. Left to
-// itself the allocator hands the memory of every connection back to the system and asks for it
-// again, and SQLite counts each allocation under a lock: both take longer than the reading.
+// The history is opened anew for each reading, which is hundreds of small allocations, and SQLite
+// counts each of them under a lock. Refused, and without effect, once a database is open.
 void makeOpeningCheap() {
-#ifdef __GLIBC__
-    constexpr int kept = 4 * 1024 * 1024;
-    mallopt(M_TRIM_THRESHOLD, kept);
-    mallopt(M_MMAP_THRESHOLD, kept);
-    mallopt(M_TOP_PAD, 1024 * 1024);
-#endif
-    // Refused, and without effect, once a database is open.
     sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
 }
 
