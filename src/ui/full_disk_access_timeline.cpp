@@ -8,6 +8,7 @@ namespace velmora {
 namespace {
 
 constexpr double loop = 7.0;
+constexpr double switchIsOn = 5.0;
 
 /// How far the time is from `start` on its way through `length` seconds, slow at both ends.
 double eased(double time, double start, double length) {
@@ -29,26 +30,37 @@ void FullDiskAccessTimeline::setTime(double time) {
     Q_EMIT timeChanged();
 }
 
+double FullDiskAccessTimeline::time() const {
+    return still_ ? switchIsOn : time_;
+}
+
+void FullDiskAccessTimeline::setStill(bool still) {
+    if (still == still_)
+        return;
+    still_ = still;
+    Q_EMIT timeChanged();
+}
+
 double FullDiskAccessTimeline::opacity() const {
-    if (time_ < 0.3)
-        return std::min(1.0, time_ / 0.3);
-    return time_ <= 6.3 ? 1.0 : std::max(0.0, 1 - ((time_ - 6.3) / 0.6));
+    if (time() < 0.3)
+        return std::min(1.0, time() / 0.3);
+    return time() <= 6.3 ? 1.0 : std::max(0.0, 1 - ((time() - 6.3) / 0.6));
 }
 
 double FullDiskAccessTimeline::pointerX() const {
-    return 250 + (23 * eased(time_, 0.4, 1.6));
+    return 250 + (23 * eased(time(), 0.4, 1.6));
 }
 
 double FullDiskAccessTimeline::pointerY() const {
-    return 180 - (90 * eased(time_, 0.4, 1.6));
+    return 180 - (90 * eased(time(), 0.4, 1.6));
 }
 
 double FullDiskAccessTimeline::pointerScale() const {
-    return time_ > 2.05 && time_ < 2.35 ? 0.86 : 1.0;
+    return time() > 2.05 && time() < 2.35 ? 0.86 : 1.0;
 }
 
 double FullDiskAccessTimeline::switchedOn() const {
-    return eased(time_, 2.2, 0.3);
+    return eased(time(), 2.2, 0.3);
 }
 
 }  // namespace velmora

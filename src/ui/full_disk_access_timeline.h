@@ -8,11 +8,13 @@
 namespace velmora {
 
 /// The course of the animation that shows how Full Disk Access is turned on: a loop of 7 seconds
-/// in which a pointer glides to a switch and turns it on. All that is drawn follows from `time`.
+/// in which a pointer glides to a switch and turns it on. All that is drawn follows from `time`, or
+/// is the end of it while it stands still.
 class FullDiskAccessTimeline : public QObject {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(double time READ time WRITE setTime NOTIFY timeChanged)
+    Q_PROPERTY(bool still READ still WRITE setStill NOTIFY timeChanged)
     Q_PROPERTY(double opacity READ opacity NOTIFY timeChanged)
     Q_PROPERTY(double pointerX READ pointerX NOTIFY timeChanged)
     Q_PROPERTY(double pointerY READ pointerY NOTIFY timeChanged)
@@ -25,8 +27,11 @@ class FullDiskAccessTimeline : public QObject {
     /// Seconds into the loop, from 0 to below 7.
     [[nodiscard]] static double phase(Moment moment);
 
-    [[nodiscard]] double time() const { return time_; }
+    /// What was set, or while it stands still a moment at which the switch is on.
+    [[nodiscard]] double time() const;
     void setTime(double time);
+    [[nodiscard]] bool still() const { return still_; }
+    void setStill(bool still);
 
     /// Of the whole drawing, 0 to 1.
     [[nodiscard]] double opacity() const;
@@ -43,6 +48,7 @@ class FullDiskAccessTimeline : public QObject {
 
   private:
     double time_ = 0;
+    bool still_ = false;
 };
 
 }  // namespace velmora

@@ -46,7 +46,7 @@ MainWindow::MainWindow(AppModel& model, std::unique_ptr<NativeLook> look, Motion
         qmlTypeId("Velmora", 1, 0, "SystemAppearance"));
     // The look is given to the engine below, and lives as long as what follows it.
     const auto followMotion = [appearance, motion, asked = look.get()] {
-        appearance->setAnimated(motion == Motion::animated && !asked->reducesMotion());
+        appearance->setMotion(motion == Motion::animated, asked->reducesMotion());
     };
     followMotion();
     engine_.setInitialProperties(

@@ -22,11 +22,12 @@ SystemAppearance::SystemAppearance(QObject* parent) : QObject(parent), dark_(pal
         qGuiApp->installEventFilter(this);
 }
 
-void SystemAppearance::setAnimated(bool animated) {
-    if (animated == animated_)
+void SystemAppearance::setMotion(bool animated, bool reduced) {
+    if (animated == animated_ && reduced == reducesMotion_)
         return;
     animated_ = animated;
-    Q_EMIT animatedChanged();
+    reducesMotion_ = reduced;
+    Q_EMIT motionChanged();
 }
 
 QString SystemAppearance::fontFamily() const {

@@ -12,7 +12,8 @@ class SystemAppearance final : public QObject {
     QML_ELEMENT
     QML_SINGLETON
     Q_PROPERTY(bool dark READ dark NOTIFY darkChanged)
-    Q_PROPERTY(bool animated READ animated NOTIFY animatedChanged)
+    Q_PROPERTY(bool animated READ animated NOTIFY motionChanged)
+    Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY motionChanged)
     Q_PROPERTY(QString fontFamily READ fontFamily CONSTANT)
 
   public:
@@ -21,18 +22,22 @@ class SystemAppearance final : public QObject {
     /// True when the application's palette writes light text on a darker window.
     [[nodiscard]] bool dark() const { return dark_; }
     [[nodiscard]] QString fontFamily() const;
-    [[nodiscard]] bool animated() const { return animated_; }
-    void setAnimated(bool animated);
+    /// Whether what changes in the window glides there.
+    [[nodiscard]] bool animated() const { return animated_ && !reducesMotion_; }
+    /// Whether the user asked that as little as possible moves, drawings included.
+    [[nodiscard]] bool reducesMotion() const { return reducesMotion_; }
+    void setMotion(bool animated, bool reduced);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   Q_SIGNALS:
     void darkChanged();
-    void animatedChanged();
+    void motionChanged();
 
   private:
     bool dark_;
     bool animated_ = true;
+    bool reducesMotion_ = false;
 };
 
 }  // namespace velmora

@@ -202,6 +202,8 @@ TEST(FullDiskAccessTimeline, ThePointerGlidesToTheSwitchAndTurnsIt) {
         EXPECT_EQ(timeline.pointerScale(), frame.scale);
         EXPECT_NEAR(timeline.switchedOn(), frame.switchedOn, 1e-9);
     }
+    timeline.setStill(true);
+    EXPECT_EQ(timeline.opacity() * timeline.switchedOn(), 1);
     EXPECT_DOUBLE_EQ(FullDiskAccessTimeline::phase({7'000'003.5}), 3.5);
     EXPECT_DOUBLE_EQ(FullDiskAccessTimeline::phase({-1}), 6);
 }

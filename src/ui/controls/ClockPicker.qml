@@ -13,10 +13,23 @@ FocusScope {
 
     signal picked(int hour, int minute)
 
+    component HalfOfDay: ClockSegment {
+        required property ClockFields fields
+        property string pickerName
+
+        Accessible.ignored: !visible
+        text: fields.halfText
+        value: fields.hour < 12 ? 0 : 1
+        maximumValue: 1
+        accessibleName: pickerName + " " + text
+        onStepped: delta => fields.stepHalf(delta)
+        take: character => fields.typeHalf(character)
+    }
+
     function step(delta: int) {
         if (minutes.activeFocus)
             clock.stepMinute(delta);
-        else if (half.activeFocus)
+        else if (halfFirst.activeFocus || halfLast.activeFocus)
             clock.stepHalf(delta);
         else
             clock.stepHour(delta);
@@ -60,6 +73,16 @@ FocusScope {
             rows: 1
             columnSpacing: 0
 
+            // First or last among its siblings, too, for the Tab key visits them in that order.
+            HalfOfDay {
+                id: halfFirst
+                fields: clock
+                Layout.column: 0
+                rightPadding: 4
+                visible: clock.halfFirst
+                pickerName: picker.accessibleName
+                Keys.onRightPressed: hours.forceActiveFocus(Qt.OtherFocusReason)
+            }
             ClockSegment {
                 id: hours
                 focus: true
@@ -73,7 +96,7 @@ FocusScope {
                 onStepped: delta => clock.stepHour(delta)
                 take: character => clock.typeHour(character)
                 onActiveFocusChanged: clock.endTyping()
-                Keys.onLeftPressed: if (clock.halfFirst) half.forceActiveFocus(Qt.OtherFocusReason)
+                Keys.onLeftPressed: if (clock.halfFirst) halfFirst.forceActiveFocus(Qt.OtherFocusReason)
                 Keys.onRightPressed: minutes.forceActiveFocus(Qt.OtherFocusReason)
             }
             BodyText {
@@ -93,23 +116,16 @@ FocusScope {
                 take: character => clock.typeMinute(character)
                 onActiveFocusChanged: clock.endTyping()
                 Keys.onLeftPressed: hours.forceActiveFocus(Qt.OtherFocusReason)
-                Keys.onRightPressed: if (clock.halfLast) half.forceActiveFocus(Qt.OtherFocusReason)
+                Keys.onRightPressed: if (clock.halfLast) halfLast.forceActiveFocus(Qt.OtherFocusReason)
             }
-            ClockSegment {
-                id: half
-                Layout.column: clock.halfFirst ? 0 : 4
-                visible: clock.twelveHour
-                leftPadding: clock.halfFirst ? 1 : 4
-                rightPadding: clock.halfFirst ? 4 : 1
-                Accessible.ignored: !visible
-                text: clock.halfText
-                value: clock.hour < 12 ? 0 : 1
-                maximumValue: 1
-                accessibleName: picker.accessibleName + " " + text
-                onStepped: delta => clock.stepHalf(delta)
-                take: character => clock.typeHalf(character)
-                Keys.onLeftPressed: if (clock.halfLast) minutes.forceActiveFocus(Qt.OtherFocusReason)
-                Keys.onRightPressed: if (clock.halfFirst) hours.forceActiveFocus(Qt.OtherFocusReason)
+            HalfOfDay {
+                id: halfLast
+                fields: clock
+                Layout.column: 4
+                leftPadding: 4
+                visible: clock.halfLast
+                pickerName: picker.accessibleName
+                Keys.onLeftPressed: minutes.forceActiveFocus(Qt.OtherFocusReason)
             }
         }
     }

@@ -3,7 +3,8 @@ import QtQuick
 import Velmora
 
 /// A small window of the system's settings in which a pointer turns on the Velmora switch, over and
-/// over. It is redrawn with every frame while it can be seen.
+/// over. It is redrawn with every frame while it can be seen; a user who asked for less motion sees
+/// the end of it, the switch turned on.
 Item {
     id: animation
 
@@ -16,10 +17,11 @@ Item {
 
     FullDiskAccessTimeline {
         id: timeline
+        still: SystemAppearance.reducesMotion
         time: animation.firstRun.animationTime()
     }
     FrameAnimation {
-        running: animation.visible
+        running: animation.visible && !timeline.still
         onTriggered: timeline.time = animation.firstRun.animationTime()
     }
 
