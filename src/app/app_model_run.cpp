@@ -69,10 +69,11 @@ void AppModel::offerRun() {
 
 void AppModel::confirmRun() {
     confirmingRun = false;
-    const qsizetype before = selection_.size();
+    // The people and not their number: the other name may check someone for each that it unchecks.
+    const QSet<QString> before = selection_;
     if (batchName.value() != loadedBatch_)
         loadList();
-    if (selection_.size() == before)
+    if (selection_ == before)
         return startRun();
     alert = QStringLiteral(
                 "Some people were already sent in the run \"%1\", so they were "

@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 #include "core/csv.h"
 #include "core/files.h"
@@ -113,6 +115,17 @@ LogEntry entryOf(const CSVReader& row, const LogEntry& previous) {
 }  // namespace
 
 void SendLog::append(const LogEntry& entry) {
+    unwritten_.push_back(entry);
+    writeAll();
+}
+
+void SendLog::writeAll() {
+    const std::vector<LogEntry> waiting = std::exchange(unwritten_, {});
+    std::ranges::copy_if(waiting, std::back_inserter(unwritten_),
+                         [this](const LogEntry& each) { return !write(each); });
+}
+
+bool SendLog::write(const LogEntry& entry) {
     const QString path = logFile(entry.batch);
     const QByteArray line = csvLine(entry).toUtf8();
     const Repair repair = repairOf(readFile(path).value_or(QByteArray()));
@@ -121,17 +134,29 @@ void SendLog::append(const LogEntry& entry) {
     const QByteArray bytes = (isEmpty ? headerLine().toUtf8() : repair.ending) + line;
     const auto done =
         QFile::exists(path) ? appendToFile(path, bytes, repair.surplus) : replaceFile(path, bytes);
-    static_cast<void>(done);
+    return done.has_value();
+}
+
+std::vector<LogEntry> SendLog::unwritten(const QString& batch) {
+    const QString path = unwritten_.empty() ? QString() : logFile(batch);
+    std::vector<LogEntry> entries;
+    std::ranges::copy_if(unwritten_, std::back_inserter(entries),
+                         [&](const LogEntry& each) { return logFile(each.batch) == path; });
+    return entries;
 }
 
 void SendLog::rewrite(const QString& batch, const std::vector<LogEntry>& entries) {
     QString text = headerLine();
     for (const LogEntry& entry : entries)
         text += csvLine(entry);
-    static_cast<void>(replaceFile(logFile(batch), text.toUtf8()));
+    const QString path = logFile(batch);
+    if (replaceFile(path, text.toUtf8()))
+        std::erase_if(unwritten_,
+                      [&](const LogEntry& each) { return logFile(each.batch) == path; });
 }
 
 std::vector<LogEntry> SendLog::load(const QString& batch) {
+    writeAll();
     const QString text = logText(logFile(batch));
     std::vector<LogEntry> entries;
     const LogEntry none;
@@ -141,10 +166,15 @@ std::vector<LogEntry> SendLog::load(const QString& batch) {
         entries.push_back(entryOf(row, entries.empty() ? none : entries.back()));
         entries.back().time = time ? *time : clock_.now();
     });
+    for (LogEntry& each : unwritten(batch)) {
+        each.id = freshID();
+        entries.push_back(std::move(each));
+    }
     return entries;
 }
 
 QSet<QString> SendLog::alreadySent(const QString& batch) {
+    writeAll();
     const QString text = logText(logFile(batch));
     QSet<QString> phones;
     phones.reserve(entryCount(text));
@@ -152,6 +182,9 @@ QSet<QString> SendLog::alreadySent(const QString& batch) {
         if (isSentStatus(row.field(Column::status)))
             phones.insert(row.field(Column::phone).toString());
     });
+    for (const LogEntry& each : unwritten(batch))
+        if (isSentStatus(each.status))
+            phones.insert(each.phone);
     return phones;
 }
 

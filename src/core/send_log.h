@@ -12,26 +12,28 @@
 namespace velmora {
 
 /// One CSV file per run name: the user's record of what went out, and what keeps a later run under
-/// the same name from texting anyone twice. Keeps nothing in memory.
+/// the same name from texting anyone twice. Keeps nothing in memory but the lines that could not be
+/// written, which count as if they stood in their file.
 class SendLog {
   public:
     /// `folder` and `clock` outlive the log.
     SendLog(SupportFolder& folder, const Clock& clock) : folder_(folder), clock_(clock) {}
 
     /// Adds the entry to the file of its own batch, header first in a new or an empty file. A last
-    /// line that was cut off in the middle is ended first, so that it swallows no other. A failure
-    /// is dropped; a file that exists but cannot be opened is left alone.
+    /// line that was cut off in the middle is ended first, so that it swallows no other. What
+    /// cannot be written is tried again whenever a log is read or added to, until the program ends;
+    /// a file that exists but cannot be opened is left alone.
     void append(const LogEntry& entry);
 
     /// Replaces the run's file by the header and `entries`. On failure the old file stands.
     void rewrite(const QString& batch, const std::vector<LogEntry>& entries);
 
-    /// The entries of the run's file in file order, each with a fresh id; empty when there is no
+    /// The entries of the run's file in file order, each with a fresh id; none when there is no
     /// file or it is no UTF-8, half a character at its end aside. Rows of fewer than 8 fields are
-    /// skipped; a time that cannot be read is now.
+    /// skipped; a time that cannot be read is now. Then those that could not be written.
     [[nodiscard]] std::vector<LogEntry> load(const QString& batch);
 
-    /// The phones in the run's file whose status begins with "sent".
+    /// The phones of these entries whose status begins with "sent".
     [[nodiscard]] QSet<QString> alreadySent(const QString& batch);
 
     /// The path of the run's file, named by safeFileStem. Where that is longer than file systems
@@ -39,8 +41,13 @@ class SendLog {
     [[nodiscard]] QString logFile(const QString& batch);
 
   private:
+    void writeAll();
+    [[nodiscard]] bool write(const LogEntry& entry);
+    [[nodiscard]] std::vector<LogEntry> unwritten(const QString& batch);
+
     SupportFolder& folder_;
     const Clock& clock_;
+    std::vector<LogEntry> unwritten_;
 };
 
 /// The run name as a file name without its ending: every Unicode scalar that is no letter, mark,

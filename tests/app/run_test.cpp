@@ -76,6 +76,23 @@ TEST_F(Run, GoesFromTheListToTheLogAndNeverTextsAnyoneTwice) {
     EXPECT_TRUE(recipient(u"ann"_s).alreadySent);
     model->selectShown();
     EXPECT_TRUE(model->selection().isEmpty());
+
+    // As many under the other name, but not the same people.
+    for (const auto& [name, id] : {std::pair(u"Bob's"_s, u"bob"_s), {u"Ann's"_s, u"ann"_s}}) {
+        model->batchName = name;
+        model->loadList();
+        model->setSelection({id});
+        model->startRun();
+        EXPECT_TRUE(world.clock.runUntilIdle());
+    }
+    model->setSelection({u"ann"_s, u"bob"_s});
+    model->loadList();
+    EXPECT_EQ(model->selection(), QSet{u"bob"_s});
+    model->alert = std::nullopt;
+    model->batchName = u"Bob's"_s;
+    model->confirmRun();
+    EXPECT_FALSE(model->runner().isActive()) << "would text Ann, whom the sheet did not show";
+    EXPECT_TRUE(model->alert.value().has_value());
 }
 
 // Catches a run that starts where it must not, or a refusal that names the wrong reason.

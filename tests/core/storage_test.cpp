@@ -241,6 +241,8 @@ TEST_F(StorageTest, FailedWritesLeaveTheLogWhole) {
         const auto disk = fullDisk(before.size() + 10);
         log.append(entry(u"+2"_s));
         log.rewrite(party, {entry(u"+3"_s), entry(u"+4"_s)});
+        EXPECT_EQ(log.alreadySent(party), (QSet{u"+1"_s, u"+2"_s})) << "texted again tonight";
+        EXPECT_EQ(log.load(party).back().phone, u"+2"_s);
     }
     {
         const auto disk = fullDisk(0);
@@ -251,7 +253,10 @@ TEST_F(StorageTest, FailedWritesLeaveTheLogWhole) {
     permitLogs(0x4444, 0x7777);
     {
         const auto user = asOrdinaryUser();
-        log.append(entry(u"+2"_s));
+        log.append(entry(u"+3"_s));
     }
     EXPECT_EQ(file(), before);
+    permitLogs(0x6666, 0x7777);
+    EXPECT_EQ(log.load(party).size(), 3);
+    EXPECT_EQ(SendLog(folder, clock).alreadySent(party), (QSet{u"+1"_s, u"+2"_s, u"+3"_s}));
 }
