@@ -1,3 +1,4 @@
+#include <QStringDecoder>
 #include <cmath>
 #include <limits>
 #include <nlohmann/json.hpp>
@@ -25,10 +26,17 @@ bool visitFields(Config& config, const Visit& visit) {
            visit("termsAcceptedAt", config.termsAcceptedAt);
 }
 
+// QString::fromStdString drops a mark of byte order at the beginning, which here is a part of the
+// text.
+QString textOf(const std::string& text) {
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decoder.decode(text);
+}
+
 bool read(const json& value, QString& field) {
     const auto* text = value.get_ptr<const std::string*>();
     if (text != nullptr)
-        field = QString::fromStdString(*text);
+        field = textOf(*text);
     return text != nullptr;
 }
 
@@ -74,7 +82,7 @@ bool read(const json& value, QMap<QString, Value>& field) {
     if (!value.is_object())
         return false;
     for (const auto& [key, element] : value.items()) {
-        if (!read(element, field[QString::fromStdString(key)]))
+        if (!read(element, field[textOf(key)]))
             return false;
     }
     return true;
@@ -199,7 +207,8 @@ class SettingsBuilder final : public nlohmann::json_sax<json> {
 
 std::optional<json> parsed(const QByteArray& text) {
     SettingsBuilder builder;
-    if (!json::sax_parse(text.begin(), text.end(), &builder))
+    // The parser takes a NUL for the end of the text.
+    if (text.contains('\0') || !json::sax_parse(text.begin(), text.end(), &builder))
         return std::nullopt;
     return builder.take();
 }

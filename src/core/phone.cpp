@@ -29,8 +29,22 @@ QString displayPhone(const QString& phone) {
     return u'(' + between(2, 5) + u") "_s + between(5, 8) + u'-' + between(8, 12);
 }
 
+namespace {
+
+// The marks of writing direction come along with a copied number and cannot be seen. Behind one a
+// "+" would not count, and ten digits from abroad would become somebody else's number.
+QStringView withoutDirectionMarks(QStringView text) {
+    constexpr QStringView marks =
+        u"\u200e\u200f\u202a\u202b\u202c\u202d\u202e\u2066\u2067\u2068\u2069";
+    while (!text.isEmpty() && marks.contains(text.front()))
+        text = text.sliced(1);
+    return text;
+}
+
+}  // namespace
+
 std::optional<QString> normalizePhone(const QString& typed) {
-    const QStringView trimmed = trimmedWhiteSpace(typed);
+    const QStringView trimmed = withoutDirectionMarks(trimmedWhiteSpace(typed));
     QString digits;
     for (const QChar character : trimmed)
         if (character >= u'0' && character <= u'9')

@@ -11,8 +11,8 @@ namespace velmora {
 
 /// The one form in which phones are kept, "+" and digits: of 8 to 15 digits typed with a leading
 /// "+", of 10 digits ("+1" is put before them), or of 11 digits that begin with 1. White space
-/// around the text and everything that is no ASCII digit is dropped first. Nothing for any other
-/// text.
+/// around the text, the marks of direction before it and everything that is no ASCII digit are
+/// dropped first. Nothing for any other text.
 [[nodiscard]] std::optional<QString> normalizePhone(const QString& typed);
 
 }  // namespace velmora

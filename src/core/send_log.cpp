@@ -150,9 +150,16 @@ void SendLog::rewrite(const QString& batch, const std::vector<LogEntry>& entries
     for (const LogEntry& entry : entries)
         text += csvLine(entry);
     const QString path = logFile(batch);
-    if (replaceFile(path, text.toUtf8()))
+    if (replaceFile(path, text.toUtf8())) {
         std::erase_if(unwritten_,
                       [&](const LogEntry& each) { return logFile(each.batch) == path; });
+        return;
+    }
+    for (LogEntry& each : unwritten_) {
+        const auto newer = std::ranges::find(entries, each.id, &LogEntry::id);
+        if (newer != entries.end())
+            each = *newer;
+    }
 }
 
 std::vector<LogEntry> SendLog::load(const QString& batch) {

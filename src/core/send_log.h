@@ -25,12 +25,14 @@ class SendLog {
     /// a file that exists but cannot be opened is left alone.
     void append(const LogEntry& entry);
 
-    /// Replaces the run's file by the header and `entries`. On failure the old file stands.
+    /// Replaces the run's file by the header and `entries`. On failure the old file stands, and
+    /// only what could not be written before becomes as it is in `entries`.
     void rewrite(const QString& batch, const std::vector<LogEntry>& entries);
 
-    /// The entries of the run's file in file order, each with a fresh id; none when there is no
-    /// file or it is no UTF-8, half a character at its end aside. Rows of fewer than 8 fields are
-    /// skipped; a time that cannot be read is now. Then those that could not be written.
+    /// The entries of the run's file, which takes first what it could not before, in file order,
+    /// each with a fresh id; none when there is no file or it is no UTF-8, half a character at its
+    /// end aside. Rows of fewer than 8 fields are skipped; a time that cannot be read is now. Then
+    /// those that could not be written.
     [[nodiscard]] std::vector<LogEntry> load(const QString& batch);
 
     /// The phones of these entries whose status begins with "sent".

@@ -9,6 +9,7 @@
 
 #include "core/config_store.h"
 #include "core/files.h"
+#include "core/fresh_id.h"
 #include "core/send_log.h"
 #include "support/rehearsal_home.h"
 #include "support/virtual_clock.h"
@@ -60,7 +61,8 @@ AppConfig fullConfig() {
     config.maxPerRun = std::numeric_limits<qint64>::max();
     config.maxFailures = std::numeric_limits<qint64>::min();
     config.selectedGroupID = u""_s;
-    config.templates = {{u"\U0001f600"_s, u"quote \" and \u0000 zero"_s}, {u"\uff5e"_s, u"\n"_s}};
+    config.templates = {{u"\U0001f600"_s, u"\ufeffquote \" and \u0000 zero"_s},
+                        {u"\uff5e"_s, u"\n"_s}};
     config.notes = {{u"a"_s, u" "_s}};
     config.picks = {{u"g"_s, {u"1"_s, u"2"_s}}, {u"h"_s, {}}};
     config.termsAccepted = currentTermsVersion;
@@ -74,8 +76,8 @@ const QString party = u"Party"_s;
 
 LogEntry entry(const QString& phone, const QString& status = u"sent"_s,
                const QString& detail = {}) {
-    return {{},     {763657200.75}, party, u"Ann, B"_s, phone, u"iMessage"_s, u"+19995550000"_s,
-            status, detail};
+    return {freshID(),     {763657200.75},    party,  u"Ann, B"_s, phone,
+            u"iMessage"_s, u"+19995550000"_s, status, detail};
 }
 
 /// An Application Support directory of the test's own.
@@ -239,8 +241,12 @@ TEST_F(StorageTest, FailedWritesLeaveTheLogWhole) {
     const QByteArray before = file();
     {
         const auto disk = fullDisk(before.size() + 10);
-        log.append(entry(u"+2"_s));
+        LogEntry second = entry(u"+2"_s, u"failed"_s);
+        log.append(second);
         log.rewrite(party, {entry(u"+3"_s), entry(u"+4"_s)});
+        EXPECT_EQ(log.alreadySent(party), QSet{u"+1"_s});
+        second.status = u"sent"_s;
+        log.rewrite(party, {entry(u"+1"_s), second});
         EXPECT_EQ(log.alreadySent(party), (QSet{u"+1"_s, u"+2"_s})) << "texted again tonight";
         EXPECT_EQ(log.load(party).back().phone, u"+2"_s);
     }
