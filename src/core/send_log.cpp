@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <utility>
 
 #include "core/csv.h"
@@ -52,13 +53,14 @@ Repair repairOf(const QByteArray& bytes) {
     return {surplus, kept.isEmpty() || kept.endsWith('\n') ? "" : "\n"};
 }
 
-// The text of the file, up to a half character at its end; empty when there is none or it is no
-// UTF-8.
+// The text of a log, up to a half character at its end; nothing when it is no UTF-8.
+std::optional<QString> readableText(const QByteArray& bytes) {
+    const QByteArray whole = bytes.chopped(halfCharacterSize(bytes));
+    return whole.isValidUtf8() ? std::optional(QString::fromUtf8(whole)) : std::nullopt;
+}
+
 QString logText(const QString& path) {
-    auto bytes = readFile(path);
-    if (bytes)
-        bytes->chop(halfCharacterSize(*bytes));
-    return bytes && bytes->isValidUtf8() ? QString::fromUtf8(*bytes) : QString();
+    return readableText(readFile(path).value_or(QByteArray())).value_or(QString());
 }
 
 // The stem as it is where a file can have that name; else its beginning and what only this stem
@@ -115,18 +117,34 @@ LogEntry entryOf(const CSVReader& row, const LogEntry& previous) {
 }  // namespace
 
 void SendLog::append(const LogEntry& entry) {
-    unwritten_.push_back(entry);
+    unwritten_.push_back({logFile(entry.batch), entry});
+    writeAll();
+}
+
+void SendLog::rewrite(const QString& batch, const std::vector<LogEntry>& entries) {
+    QString text = headerLine();
+    for (const LogEntry& entry : entries)
+        text += csvLine(entry);
+    const QString path = logFile(batch);
+    std::erase_if(unwritten_, [&](const Unwritten& each) { return each.path == path; });
+    const auto old = readFile(path);
+    // Lines that could not be read are not among the entries.
+    const bool isKnown = old ? readableText(*old).has_value() : !QFile::exists(path);
+    if (isKnown && replaceFile(path, text.toUtf8()))
+        return;
+    for (const LogEntry& entry : entries)
+        if (!old || !old->contains(csvLine(entry).toUtf8()))
+            unwritten_.push_back({path, entry});
     writeAll();
 }
 
 void SendLog::writeAll() {
-    const std::vector<LogEntry> waiting = std::exchange(unwritten_, {});
+    const std::vector<Unwritten> waiting = std::exchange(unwritten_, {});
     std::ranges::copy_if(waiting, std::back_inserter(unwritten_),
-                         [this](const LogEntry& each) { return !write(each); });
+                         [](const Unwritten& each) { return !each.write(); });
 }
 
-bool SendLog::write(const LogEntry& entry) {
-    const QString path = logFile(entry.batch);
+bool SendLog::Unwritten::write() const {
     const QByteArray line = csvLine(entry).toUtf8();
     const Repair repair = repairOf(readFile(path).value_or(QByteArray()));
     // An empty file needs the header, too: its first line is skipped when it is read.
@@ -137,34 +155,10 @@ bool SendLog::write(const LogEntry& entry) {
     return done.has_value();
 }
 
-std::vector<LogEntry> SendLog::unwritten(const QString& batch) {
-    const QString path = unwritten_.empty() ? QString() : logFile(batch);
-    std::vector<LogEntry> entries;
-    std::ranges::copy_if(unwritten_, std::back_inserter(entries),
-                         [&](const LogEntry& each) { return logFile(each.batch) == path; });
-    return entries;
-}
-
-void SendLog::rewrite(const QString& batch, const std::vector<LogEntry>& entries) {
-    QString text = headerLine();
-    for (const LogEntry& entry : entries)
-        text += csvLine(entry);
-    const QString path = logFile(batch);
-    if (replaceFile(path, text.toUtf8())) {
-        std::erase_if(unwritten_,
-                      [&](const LogEntry& each) { return logFile(each.batch) == path; });
-        return;
-    }
-    for (LogEntry& each : unwritten_) {
-        const auto newer = std::ranges::find(entries, each.id, &LogEntry::id);
-        if (newer != entries.end())
-            each = *newer;
-    }
-}
-
 std::vector<LogEntry> SendLog::load(const QString& batch) {
     writeAll();
-    const QString text = logText(logFile(batch));
+    const QString path = logFile(batch);
+    const QString text = logText(path);
     std::vector<LogEntry> entries;
     const LogEntry none;
     entries.reserve(static_cast<size_t>(entryCount(text)));
@@ -173,25 +167,28 @@ std::vector<LogEntry> SendLog::load(const QString& batch) {
         entries.push_back(entryOf(row, entries.empty() ? none : entries.back()));
         entries.back().time = time ? *time : clock_.now();
     });
-    for (LogEntry& each : unwritten(batch)) {
-        each.id = freshID();
-        entries.push_back(std::move(each));
+    for (const Unwritten& each : unwritten_) {
+        if (each.path != path)
+            continue;
+        entries.push_back(each.entry);
+        entries.back().id = freshID();
     }
     return entries;
 }
 
 QSet<QString> SendLog::alreadySent(const QString& batch) {
     writeAll();
-    const QString text = logText(logFile(batch));
+    const QString path = logFile(batch);
+    const QString text = logText(path);
     QSet<QString> phones;
     phones.reserve(entryCount(text));
     readEntryRows(text, [&](const CSVReader& row) {
         if (isSentStatus(row.field(Column::status)))
             phones.insert(row.field(Column::phone).toString());
     });
-    for (const LogEntry& each : unwritten(batch))
-        if (isSentStatus(each.status))
-            phones.insert(each.phone);
+    for (const Unwritten& each : unwritten_)
+        if (each.path == path && isSentStatus(each.entry.status))
+            phones.insert(each.entry.phone);
     return phones;
 }
 

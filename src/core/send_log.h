@@ -25,8 +25,9 @@ class SendLog {
     /// a file that exists but cannot be opened is left alone.
     void append(const LogEntry& entry);
 
-    /// Replaces the run's file by the header and `entries`. On failure the old file stands, and
-    /// only what could not be written before becomes as it is in `entries`.
+    /// Replaces the run's file by the header and `entries`. A file that could not be read, for it
+    /// is no UTF-8, and one that cannot be replaced stand; what they lack of `entries` is added to
+    /// them as by `append`.
     void rewrite(const QString& batch, const std::vector<LogEntry>& entries);
 
     /// The entries of the run's file, which takes first what it could not before, in file order,
@@ -44,12 +45,16 @@ class SendLog {
 
   private:
     void writeAll();
-    [[nodiscard]] bool write(const LogEntry& entry);
-    [[nodiscard]] std::vector<LogEntry> unwritten(const QString& batch);
+    struct Unwritten {
+        QString path;
+        LogEntry entry;
+
+        [[nodiscard]] bool write() const;
+    };
 
     SupportFolder& folder_;
     const Clock& clock_;
-    std::vector<LogEntry> unwritten_;
+    std::vector<Unwritten> unwritten_;
 };
 
 /// The run name as a file name without its ending: every Unicode scalar that is no letter, mark,

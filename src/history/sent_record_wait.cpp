@@ -1,5 +1,7 @@
 #include "history/sent_record_wait.h"
 
+#include <algorithm>
+
 #include "history/messages_db.h"
 
 namespace velmora {
@@ -20,7 +22,8 @@ QCoro::Task<std::optional<SentRecord>> waitForSentRecord(Surroundings surroundin
                                                          QString historyPath, QString phone,
                                                          qint64 since, double timeout) {
     constexpr double secondsBetweenReadings = 2;
-    const double deadline = surroundings.clock.uptime() + timeout;
+    constexpr double longest = 3600;
+    const double deadline = surroundings.clock.uptime() + std::min(timeout, longest);
     std::optional<SentRecord> last;
     // Also false at once when the timeout is no number.
     while (surroundings.clock.uptime() < deadline) {

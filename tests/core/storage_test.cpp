@@ -208,6 +208,8 @@ TEST_F(StorageTest, OddRowsAndDamagedLogsAreReadAsFarAsTheyGo) {
     EXPECT_EQ(entries[1].batch, u"b"_s);
     put(header + row + "sent,\xff\n");
     EXPECT_TRUE(log.load(party).empty());
+    log.rewrite(party, {entry(u"+3"_s)});
+    EXPECT_TRUE(file().startsWith(header + row + "sent,\xff\n") && file().contains("+3"));
     put(header + row + "sent,\n" + QByteArray("t,b,n,+2\0,s,l,sent,\0\n", 21) + row +
         "sent,\"open\n" + row);
     QStringList phones;
@@ -241,18 +243,16 @@ TEST_F(StorageTest, FailedWritesLeaveTheLogWhole) {
     const QByteArray before = file();
     {
         const auto disk = fullDisk(before.size() + 10);
-        LogEntry second = entry(u"+2"_s, u"failed"_s);
-        log.append(second);
-        log.rewrite(party, {entry(u"+3"_s), entry(u"+4"_s)});
-        EXPECT_EQ(log.alreadySent(party), QSet{u"+1"_s});
-        second.status = u"sent"_s;
-        log.rewrite(party, {entry(u"+1"_s), second});
+        log.append(entry(u"+2"_s));
+        log.rewrite(party, {entry(u"+1"_s), entry(u"+2"_s, u"failed"_s)});
+        EXPECT_EQ(log.alreadySent(party), QSet{u"+1"_s}) << "not texted, and never will be";
+        log.rewrite(party, {entry(u"+1"_s), entry(u"+2"_s)});
         EXPECT_EQ(log.alreadySent(party), (QSet{u"+1"_s, u"+2"_s})) << "texted again tonight";
         EXPECT_EQ(log.load(party).back().phone, u"+2"_s);
     }
     {
         const auto disk = fullDisk(0);
-        log.rewrite(party, {});
+        SendLog(folder, clock).rewrite(party, {});
     }
     EXPECT_EQ(file(), before);
     // The folder takes new files, so that only the rule keeps the file from being replaced.

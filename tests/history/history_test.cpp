@@ -183,6 +183,7 @@ TEST_F(SentRecordWait, GivesTheUnsettledRecordAfterTheTimeout) {
     EXPECT_FALSE(wait(5, 6).has_value()) << "no history at all";
     record(pending);
     EXPECT_FALSE(wait(5, 6).value_or(SentRecord{{}, {}, 1}).isConclusive());
+    EXPECT_TRUE(wait(1e308, 3600).has_value()) << "a run that can never be stopped";
     world.clock.after(1, [this] { world.clock.shiftWall(3600); });
     EXPECT_TRUE(wait(4, 4).has_value())
         << "setting the wall clock neither shortens nor prolongs it";

@@ -70,7 +70,8 @@ TEST_F(AddressBookTest, MembersComeInTheOrderOfTheBookAndAnUnknownGroupIsAnError
 TEST_F(AddressBookTest, ABrokenFileFailsEveryReadWithOneSentence) {
     for (const QByteArray json :
          {"{\"contacts\": [", "[]", R"({"contacts": {}})", R"({"contacts": [{"givenName": 5}]})",
-          R"({"contacts": ["c1"]})", R"({"groups": [{"members": [1]}]})", R"({"access": true})"}) {
+          R"({"contacts": ["c1"]})", R"({"groups": [{"members": [1]}]})", R"({"access": true})",
+          R"({"contacts": [{"givenName": "Ann"}, {"givenName": "Bob"}]})"}) {
         home.writeContacts(json);
         const auto people = book.enumerateContacts([](const ContactRecord&) {});
         ASSERT_FALSE(people || book.allGroups() || book.membersOfGroup(u"g1"_s))
@@ -162,8 +163,9 @@ TEST_F(MessagesApplicationTest, AFailingScriptLeavesNothing) {
     };
     EXPECT_EQ(fails(messagesOnLine(line, {{ann, R"({"scriptError": "Can't get participant."})"}})),
               "Can't get participant.");
-    for (const QByteArray settings : {"{", "[]", R"({"line": 5})", R"({"error": 1.5})",
-                                      R"({"people": {"+12125550123": {"iMessage": 5}}})"})
+    for (const QByteArray settings :
+         {"{", "[]", R"({"line": 5})", R"({"error": 1.5})", R"({"error": 1e300})",
+          R"({"people": {"+12125550123": {"iMessage": 5}}})"})
         EXPECT_THAT(fails(settings), testing::HasSubstr("messages.json"));
 }
 

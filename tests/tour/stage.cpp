@@ -35,12 +35,20 @@ Stage::Stage(const QDir& folder, Pace pace)
       world_(pace == Pace::asInLife ? Surroundings{clock_, random_, background_}
                                     : virtual_.handed()) {
     if (pace == Pace::asInLife)
-        folder_.removeRecursively();
+        forgetTheLastTime();
     folder_.remove(u"01-failure.png"_s);
     if (!folder_.mkpath(u"."_s))
         fail(u"the folder could not be made"_s);
     if (auto done = prepareSampleHome(home_.path(), world_.clock.now()); !done)
         fail(done.error().description);
+}
+
+// Only what a tour leaves: the folder may be any.
+void Stage::forgetTheLastTime() {
+    for (const QString& picture : folder_.entryList({u"*.png"_s}, QDir::Files))
+        folder_.remove(picture);
+    if (folder_.exists(u"home/Library/Messages/messages.json"_s))
+        QDir(home_).removeRecursively();
 }
 
 Stage::~Stage() {

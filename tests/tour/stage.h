@@ -62,6 +62,7 @@ class Stage {
     [[nodiscard]] WindowDriver& user() { return *user_; }
 
   private:
+    void forgetTheLastTime();
     [[noreturn]] void fail(const QString& sentence);
     void picture(const QString& name, QQuickWindow& window);
     /// Lets highlights and sheets finish moving, takes a picture and returns whether it was

@@ -63,6 +63,14 @@ std::expected<AddressBook::Book, ContactsError> AddressBook::parse() const {
              .members = file->texts(object, QStringLiteral("members"))});
     if (file->error())
         return std::unexpected(ContactsError{file->error()->description});
+    QSet<QString> identifiers;
+    for (const ContactRecord& contact : book.contacts) {
+        if (identifiers.contains(contact.identifier))
+            return std::unexpected(
+                ContactsError{QStringLiteral("Two people in %1 have the same identifier, \"%2\".")
+                                  .arg(path_, contact.identifier)});
+        identifiers.insert(contact.identifier);
+    }
     return book;
 }
 

@@ -95,13 +95,19 @@ std::expected<void, FileError> HistoryWriter::Transaction::commit() {
 std::expected<HistoryWriter, FileError> HistoryWriter::open(const QString& path) {
     if (auto folder = createPrivateFolder(QFileInfo(path).absolutePath()); !folder)
         return std::unexpected(folder.error());
+    // SQLite gives the files beside it the permissions of this one, and would let everyone read it.
+    if (!QFileInfo::exists(path)) {
+        if (auto made = replaceFile(path, {}); !made)
+            return std::unexpected(made.error());
+    }
     sqlite3* connection = nullptr;
     const int opened = sqlite3_open_v2(path.toUtf8().constData(), &connection,
                                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
     HistoryWriter writer{std::unique_ptr<sqlite3, Closer>(connection)};
     if (opened != SQLITE_OK)
         return failure(QStringLiteral("open"), connection);
-    sqlite3_busy_timeout(connection, 5000);
+    // The interface waits meanwhile.
+    sqlite3_busy_timeout(connection, 250);
     // The cache holds the indexes of a large history, else bulk use crawls from page to page.
     for (const char* sql : {"PRAGMA journal_mode = WAL", "PRAGMA synchronous = NORMAL",
                             "PRAGMA cache_size = -65536", schema}) {

@@ -2,7 +2,6 @@
 
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <cmath>
 #include <filesystem>
 #include <system_error>
 
@@ -96,8 +95,9 @@ void JsonFile::readInteger(const QJsonObject& object, const QString& key, qint64
     const QJsonValue value = object.value(key);
     if (value.isUndefined())
         return;
-    if (!value.isDouble() || value.toDouble() != std::trunc(value.toDouble()))
-        refuse(key, QStringLiteral("a whole number"));
+    // The default is the answer for what is no number, no whole one or too large a one.
+    if (value.toInteger(0) != value.toInteger(1))
+        refuse(key, QStringLiteral("a whole number of up to 64 bits"));
     number = value.toInteger();
 }
 
