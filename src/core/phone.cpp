@@ -33,18 +33,19 @@ namespace {
 
 // The marks of writing direction come along with a copied number and cannot be seen. Behind one a
 // "+" would not count, and ten digits from abroad would become somebody else's number.
-QStringView withoutDirectionMarks(QStringView text) {
+QStringView trimmedNumber(QStringView text) {
     constexpr QStringView marks =
-        u"\u200e\u200f\u202a\u202b\u202c\u202d\u202e\u2066\u2067\u2068\u2069";
+        u"\u061c\u200e\u200f\u202a\u202b\u202c\u202d\u202e\u2066\u2067\u2068\u2069";
+    text = trimmedWhiteSpace(text);
     while (!text.isEmpty() && marks.contains(text.front()))
-        text = text.sliced(1);
+        text = trimmedWhiteSpace(text.sliced(1));
     return text;
 }
 
 }  // namespace
 
 std::optional<QString> normalizePhone(const QString& typed) {
-    const QStringView trimmed = withoutDirectionMarks(trimmedWhiteSpace(typed));
+    const QStringView trimmed = trimmedNumber(typed);
     QString digits;
     for (const QChar character : trimmed)
         if (character >= u'0' && character <= u'9')

@@ -47,6 +47,9 @@ struct Repair {
 Repair repairOf(const QByteArray& bytes) {
     const qsizetype surplus = halfCharacterSize(bytes);
     const QByteArray kept = bytes.chopped(surplus);
+    // In another encoding it may be a whole character.
+    if (!kept.isValidUtf8())
+        return {0, bytes.endsWith('\n') ? "" : "\n"};
     // Every quote opens or closes, a doubled one both.
     if (kept.count('"') % 2 != 0)
         return {surplus, "\"\n"};
@@ -59,8 +62,12 @@ std::optional<QString> readableText(const QByteArray& bytes) {
     return whole.isValidUtf8() ? std::optional(QString::fromUtf8(whole)) : std::nullopt;
 }
 
-QString logText(const QString& path) {
-    return readableText(readFile(path).value_or(QByteArray())).value_or(QString());
+// The same of the file, empty where there is none; nothing when it cannot be read.
+std::optional<QString> logText(const QString& path) {
+    const auto bytes = readFile(path);
+    if (bytes)
+        return readableText(*bytes);
+    return QFile::exists(path) ? std::nullopt : std::optional(QString());
 }
 
 // The stem as it is where a file can have that name; else its beginning and what only this stem
@@ -117,7 +124,7 @@ LogEntry entryOf(const CSVReader& row, const LogEntry& previous) {
 }  // namespace
 
 void SendLog::append(const LogEntry& entry) {
-    unwritten_.push_back({logFile(entry.batch), entry});
+    unwritten_.push_back({.path = logFile(entry.batch), .entry = entry});
     writeAll();
 }
 
@@ -127,14 +134,16 @@ void SendLog::rewrite(const QString& batch, const std::vector<LogEntry>& entries
         text += csvLine(entry);
     const QString path = logFile(batch);
     std::erase_if(unwritten_, [&](const Unwritten& each) { return each.path == path; });
-    const auto old = readFile(path);
-    // Lines that could not be read are not among the entries.
-    const bool isKnown = old ? readableText(*old).has_value() : !QFile::exists(path);
-    if (isKnown && replaceFile(path, text.toUtf8()))
+    // Lines that could not be read, then or now, are not among the entries.
+    if (!unread_.contains(path) && logText(path) && replaceFile(path, text.toUtf8()))
         return;
-    for (const LogEntry& entry : entries)
-        if (!old || !old->contains(csvLine(entry).toUtf8()))
-            unwritten_.push_back({path, entry});
+    QSet<QString> lines;
+    for (const LogEntry& entry : entries) {
+        const QString line = csvLine(entry);
+        if (!lines.contains(line))
+            unwritten_.push_back({.path = path, .entry = entry, .unlessThere = true});
+        lines.insert(line);
+    }
     writeAll();
 }
 
@@ -146,7 +155,10 @@ void SendLog::writeAll() {
 
 bool SendLog::Unwritten::write() const {
     const QByteArray line = csvLine(entry).toUtf8();
-    const Repair repair = repairOf(readFile(path).value_or(QByteArray()));
+    const QByteArray old = readFile(path).value_or(QByteArray());
+    if (unlessThere && old.contains(line))
+        return true;
+    const Repair repair = repairOf(old);
     // An empty file needs the header, too: its first line is skipped when it is read.
     const bool isEmpty = QFileInfo(path).size() == repair.surplus;
     const QByteArray bytes = (isEmpty ? headerLine().toUtf8() : repair.ending) + line;
@@ -158,7 +170,12 @@ bool SendLog::Unwritten::write() const {
 std::vector<LogEntry> SendLog::load(const QString& batch) {
     writeAll();
     const QString path = logFile(batch);
-    const QString text = logText(path);
+    const std::optional<QString> found = logText(path);
+    if (found)
+        unread_.remove(path);
+    else
+        unread_.insert(path);
+    const QString text = found.value_or(QString());
     std::vector<LogEntry> entries;
     const LogEntry none;
     entries.reserve(static_cast<size_t>(entryCount(text)));
@@ -179,7 +196,7 @@ std::vector<LogEntry> SendLog::load(const QString& batch) {
 QSet<QString> SendLog::alreadySent(const QString& batch) {
     writeAll();
     const QString path = logFile(batch);
-    const QString text = logText(path);
+    const QString text = logText(path).value_or(QString());
     QSet<QString> phones;
     phones.reserve(entryCount(text));
     readEntryRows(text, [&](const CSVReader& row) {

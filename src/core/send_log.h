@@ -26,8 +26,8 @@ class SendLog {
     void append(const LogEntry& entry);
 
     /// Replaces the run's file by the header and `entries`. A file that could not be read, for it
-    /// is no UTF-8, and one that cannot be replaced stand; what they lack of `entries` is added to
-    /// them as by `append`.
+    /// is no UTF-8 or was out of reach, and one that cannot be replaced stand; what they lack of
+    /// `entries` is added to them as by `append`, beside older versions of the same lines.
     void rewrite(const QString& batch, const std::vector<LogEntry>& entries);
 
     /// The entries of the run's file, which takes first what it could not before, in file order,
@@ -44,17 +44,20 @@ class SendLog {
     [[nodiscard]] QString logFile(const QString& batch);
 
   private:
-    void writeAll();
     struct Unwritten {
         QString path;
         LogEntry entry;
+        bool unlessThere = false;  // not when the file has the same line already
 
         [[nodiscard]] bool write() const;
     };
 
+    void writeAll();
+
     SupportFolder& folder_;
     const Clock& clock_;
     std::vector<Unwritten> unwritten_;
+    QSet<QString> unread_;  // files that were there but could not be read when loaded last
 };
 
 /// The run name as a file name without its ending: every Unicode scalar that is no letter, mark,

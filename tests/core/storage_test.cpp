@@ -264,5 +264,14 @@ TEST_F(StorageTest, FailedWritesLeaveTheLogWhole) {
     EXPECT_EQ(file(), before);
     permitLogs(0x6666, 0x7777);
     EXPECT_EQ(log.load(party).size(), 3);
-    EXPECT_EQ(SendLog(folder, clock).alreadySent(party), (QSet{u"+1"_s, u"+2"_s, u"+3"_s}));
+    SendLog other(folder, clock);
+    EXPECT_EQ(other.alreadySent(party), (QSet{u"+1"_s, u"+2"_s, u"+3"_s}));
+    permitLogs(0x2222, 0x7777);
+    {
+        const auto user = asOrdinaryUser();
+        EXPECT_TRUE(other.load(party).empty());
+    }
+    permitLogs(0x6666, 0x7777);
+    other.rewrite(party, {entry(u"+3"_s), entry(u"+4"_s)});
+    EXPECT_EQ(other.load(party).size(), 4) << "replaced by what was not read from it";
 }

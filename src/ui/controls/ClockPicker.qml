@@ -50,8 +50,9 @@ FocusScope {
 
     FontMetrics {
         id: face
-        readonly property real twoDigits: 2 + Math.ceil(2 * Math.max(...Array.from("0123456789",
-                                                                 each => face.advanceWidth(each))))
+        // Asks for the font first, to be measured again when that is another.
+        readonly property real twoDigits: font.family === "" ? 0
+            : 2 + Math.ceil(2 * Math.max(...Array.from("0123456789", each => face.advanceWidth(each))))
         font: hours.font
     }
 
