@@ -12,8 +12,9 @@
 namespace velmora {
 
 /// One CSV file per run name: the user's record of what went out, and what keeps a later run under
-/// the same name from texting anyone twice. Keeps nothing in memory but the lines that could not be
-/// written, which count as if they stood in their file.
+/// the same name from texting anyone twice. Keeps in memory only what went wrong: the lines that
+/// could not be written, which count as if they stood in their file, and which files could not be
+/// read.
 class SendLog {
   public:
     /// `folder` and `clock` outlive the log.
