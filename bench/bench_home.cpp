@@ -9,9 +9,9 @@
 #include <cstdlib>
 #include <random>
 
-#include "core/files.h"
 #include "platform/rehearsal/history_writer.h"
 #include "platform/rehearsal/rehearsal_platform.h"
+#include "storage/files.h"
 
 namespace velmora {
 

@@ -6,8 +6,8 @@
 #include <QTemporaryDir>
 
 #include "bench_home.h"
-#include "core/send_log.h"
 #include "platform/rehearsal/rehearsal_platform.h"
+#include "storage/send_log.h"
 
 namespace velmora {
 

@@ -8,9 +8,9 @@
 #include <QTemporaryDir>
 
 #include "bench_home.h"
-#include "core/files.h"
 #include "platform/rehearsal/history_writer.h"
 #include "platform/rehearsal/rehearsal_platform.h"
+#include "storage/files.h"
 
 namespace velmora {
 

@@ -16,10 +16,10 @@
 #include <optional>
 
 #include "bench_home.h"
-#include "core/config_store.h"
 #include "core/system_surroundings.h"
 #include "platform/rehearsal/rehearsal_platform.h"
-#include "ui/main_window.h"
+#include "storage/config_store.h"
+#include "ui/window/main_window.h"
 
 namespace velmora {
 

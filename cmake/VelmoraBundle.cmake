@@ -7,7 +7,7 @@ function(velmora_bundle target)
   add_custom_command(OUTPUT ${icon}
     COMMAND velmora_icon_set ${icon_set}
     COMMAND iconutil --convert icns --output ${icon} ${icon_set}
-    DEPENDS velmora_icon_set ${CMAKE_SOURCE_DIR}/src/ui/icon/velmora.svg
+    DEPENDS velmora_icon_set ${CMAKE_SOURCE_DIR}/src/ui/look/icon/velmora.svg
     COMMENT "Drawing the application's icon")
   set_source_files_properties(${icon} PROPERTIES MACOSX_PACKAGE_LOCATION Resources)
   target_sources(${target} PRIVATE ${icon})

@@ -4,7 +4,7 @@
 #include "app/app_model.h"
 #include "core/system_surroundings.h"
 #include "platform/platform.h"
-#include "ui/main_window.h"
+#include "ui/window/main_window.h"
 
 using namespace velmora;
 

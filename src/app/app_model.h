@@ -11,15 +11,15 @@
 #include "app/desktop.h"
 #include "app/recipient_search.h"
 #include "contacts/contacts_service.h"
-#include "core/app_config.h"
-#include "core/config_store.h"
 #include "core/records.h"
-#include "core/send_log.h"
 #include "core/surroundings.h"
 #include "history/account_preferences.h"
 #include "history/messages_db.h"
 #include "sending/message_sender.h"
 #include "sending/runner.h"
+#include "storage/app_config.h"
+#include "storage/config_store.h"
+#include "storage/send_log.h"
 
 namespace velmora {
 

@@ -8,7 +8,7 @@
 #include "core/clock.h"
 #include "history/account_preferences.h"
 #include "sending/script_runner.h"
-#include "ui/native_look.h"
+#include "ui/look/native_look.h"
 
 namespace velmora {
 

@@ -2,8 +2,8 @@
 
 #include <QtGlobal>
 
-#include "core/app_config.h"
 #include "core/surroundings.h"
+#include "storage/app_config.h"
 
 namespace velmora {
 

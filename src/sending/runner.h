@@ -8,12 +8,12 @@
 #include <optional>
 #include <vector>
 
-#include "core/app_config.h"
-#include "core/send_log.h"
 #include "core/surroundings.h"
 #include "history/messages_db.h"
 #include "sending/activity_source.h"
 #include "sending/message_sender.h"
+#include "storage/app_config.h"
+#include "storage/send_log.h"
 
 namespace velmora {
 

@@ -2,10 +2,10 @@
 
 #include <limits>
 
-#include "core/files.h"
 #include "history/account_preferences.h"
 #include "history/messages_db.h"
 #include "history/sent_record_wait.h"
+#include "storage/files.h"
 #include "support/rehearsal_home.h"
 #include "support/virtual_surroundings.h"
 

@@ -6,7 +6,6 @@
 #include <QRegularExpression>
 
 #include "contacts/contacts_service.h"
-#include "core/config_store.h"
 #include "core/phone.h"
 #include "history/messages_db.h"
 #include "platform/rehearsal/address_book.h"
@@ -14,6 +13,7 @@
 #include "platform/rehearsal/rehearsal_platform.h"
 #include "platform/rehearsal/sample/sample_home.h"
 #include "sending/message_sender.h"
+#include "storage/config_store.h"
 #include "support/rehearsal_home.h"
 #include "support/virtual_surroundings.h"
 

@@ -4,10 +4,10 @@
 
 #include <memory>
 
-#include "core/files.h"
 #include "platform/rehearsal/messages_application.h"
 #include "sending/runner.h"
 #include "sending/send_outcome.h"
+#include "storage/files.h"
 #include "support/rehearsal_home.h"
 #include "support/virtual_surroundings.h"
 

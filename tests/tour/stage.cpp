@@ -7,11 +7,11 @@
 #include <cmath>
 #include <cstdio>
 
-#include "core/config_store.h"
-#include "core/files.h"
 #include "platform/rehearsal/history_writer.h"
 #include "platform/rehearsal/rehearsal_platform.h"
 #include "platform/rehearsal/sample/sample_home.h"
+#include "storage/config_store.h"
+#include "storage/files.h"
 
 namespace velmora {
 

@@ -7,7 +7,7 @@
 
 #include "app/app_model.h"
 #include "support/virtual_clock.h"
-#include "ui/main_window.h"
+#include "ui/window/main_window.h"
 
 namespace velmora {
 

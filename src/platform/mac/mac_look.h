@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "ui/native_look.h"
+#include "ui/look/native_look.h"
 
 namespace velmora {
 

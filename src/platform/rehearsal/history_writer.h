@@ -9,7 +9,7 @@
 #include <optional>
 #include <variant>
 
-#include "core/files.h"
+#include "storage/files.h"
 
 struct sqlite3;
 struct sqlite3_stmt;

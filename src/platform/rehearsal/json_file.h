@@ -7,7 +7,7 @@
 #include <expected>
 #include <optional>
 
-#include "core/files.h"
+#include "storage/files.h"
 
 namespace velmora {
 

@@ -6,8 +6,8 @@
 #include <expected>
 #include <optional>
 
-#include "core/files.h"
 #include "core/records.h"
+#include "storage/files.h"
 
 namespace velmora {
 

@@ -3,8 +3,8 @@
 #include <QString>
 #include <expected>
 
-#include "core/files.h"
 #include "core/moment.h"
+#include "storage/files.h"
 
 namespace velmora {
 

@@ -1,0 +1,66 @@
+#include "ui/look/drawn_look.h"
+
+#include <QFile>
+#include <QLoggingCategory>
+#include <QPainter>
+#include <QSvgRenderer>
+
+namespace velmora {
+
+namespace {
+
+QByteArray drawing(const QString& name, SymbolWeight weight) {
+    QFile file(QStringLiteral(":/velmora/symbols/%1.svg").arg(name));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    QByteArray svg = file.readAll();
+    if (weight == SymbolWeight::light) {
+        svg.replace(R"(stroke-width="1.6")", R"(stroke-width="1")");
+    }
+    return svg;
+}
+
+QImage drawn(QSvgRenderer& renderer, QSize pixels, const QRectF& place) {
+    renderer.setAspectRatioMode(Qt::KeepAspectRatio);
+    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    renderer.render(&painter, place);
+    return image;
+}
+
+}  // namespace
+
+QImage DrawnLook::symbol(const QString& name, QSize pixels, const QColor& tint,
+                         SymbolWeight weight) const {
+    if (pixels.isEmpty()) {
+        return {};
+    }
+    QSvgRenderer renderer(drawing(name, weight));
+    if (!renderer.isValid()) {
+        qWarning("There is no symbol named \"%s\".", qUtf8Printable(name));
+        return {};
+    }
+    QImage image = drawn(renderer, pixels, QRectF(QPointF(), pixels));
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(image.rect(), tint);
+    return image;
+}
+
+QImage DrawnLook::picture(SystemPicture which, QSize pixels) const {
+    if (pixels.isEmpty()) {
+        return {};
+    }
+    if (which == SystemPicture::applicationIcon) {
+        QSvgRenderer icon(QStringLiteral(":/velmora/icon/velmora.svg"));
+        return drawn(icon, pixels, QRectF(QPointF(), pixels));
+    }
+    QSvgRenderer pointer(QStringLiteral(":/velmora/icon/arrow_pointer.svg"));
+    const double scale = pixels.width() / pointerPicturePoints;
+    return drawn(pointer, pixels, QRectF(QPointF(), QSizeF(pointer.defaultSize()) * scale));
+}
+
+}  // namespace velmora

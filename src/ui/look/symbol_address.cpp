@@ -1,0 +1,15 @@
+#include "ui/look/symbol_address.h"
+
+namespace velmora {
+
+QUrl SymbolAddress::of(const QString& name, const QColor& tint, bool light) {
+    if (name.isEmpty())
+        return {};
+    const quint32 rgba =
+        (static_cast<quint32>(tint.rgb()) << 8U) | static_cast<quint32>(tint.alpha());
+    return QStringLiteral("image://symbol/%1/%2/%3")
+        .arg(name, light ? QStringLiteral("light") : QStringLiteral("regular"))
+        .arg(rgba, 8, 16, QLatin1Char('0'));
+}
+
+}  // namespace velmora

@@ -1,0 +1,244 @@
+#include "ui/recipients/recipients_model.h"
+
+#include <algorithm>
+
+#include "ui/recipients/row_changes.h"
+
+namespace velmora {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A person who can't be texted any more is another row, for it stands in the other section.
+QString keyOf(const Recipient& recipient) {
+    return recipient.usable ? recipient.id : u'\n' + recipient.id;
+}
+
+}  // namespace
+
+RecipientsModel::RecipientsModel(AppModel& model) : model_(model) {
+    connect(&model_, &AppModel::recipientsReplaced, this, &RecipientsModel::followRecipients);
+    connect(&model_, &AppModel::searchTextChanged, this, &RecipientsModel::followFilter);
+    connect(&model_, &AppModel::selectedOnlyChanged, this, &RecipientsModel::followFilter);
+    connect(&model_, &AppModel::selectionChanged, this, &RecipientsModel::followSelection);
+    connect(&model_, &AppModel::configChanged, this, &RecipientsModel::followConfig);
+    connect(&model_, &AppModel::editingNoteIDChanged, this, &RecipientsModel::followEditing);
+    connect(&model_.runner(), &Runner::stateChanged, this, &RecipientsModel::followRun);
+    connect(&model_, &AppModel::bootstrappedChanged, this, &RecipientsModel::contentChanged);
+    connect(&model_, &AppModel::recipientTextsChanged, this,
+            [this] { announceAll({previewRole, offersNoteRole}); });
+    connect(&model_, &AppModel::recipientTextChanged, this, [this](qsizetype index) {
+        const auto changed =
+            std::ranges::find(rows_, keyOf(model_.recipients()[static_cast<size_t>(index)]));
+        const int row = static_cast<int>(changed - rows_.begin());
+        if (changed != rows_.end())
+            announce(row, row, {previewRole, noteRole, showsNoteRole, offersNoteRole});
+    });
+    followConfig();
+    followEditing();
+    followRun();
+    followRecipients();
+}
+
+// The people or the filter are others.
+
+void RecipientsModel::followRecipients() {
+    indexes_.clear();
+    indexes_.reserve(std::ssize(model_.recipients()));
+    qsizetype index = 0;
+    for (const Recipient& each : model_.recipients())
+        indexes_.insert(keyOf(each), index++);
+    selection_ = model_.selection();
+    followRows();
+    announceAll({});
+}
+
+void RecipientsModel::followFilter() {
+    Q_EMIT filterChanged();
+    followRows();
+}
+
+void RecipientsModel::followRows() {
+    const std::vector<QString> wanted = visibleKeys();
+    // The view may hear of these rows together with the next ones: where it stood means nothing
+    // then.
+    if (wanted.empty())
+        setTopRow(-1);
+    for (const RowChange& step : rowChanges(rows_, wanted, topRow_)) {
+        const int first = static_cast<int>(step.first);
+        const int last = static_cast<int>(step.first + step.count - 1);
+        if (step.kind == RowChange::Kind::remove) {
+            beginRemoveRows({}, first, last);
+            rows_.erase(rows_.begin() + first, rows_.begin() + last + 1);
+            endRemoveRows();
+        } else {
+            beginInsertRows({}, first, last);
+            rows_.insert(rows_.begin() + first, wanted.begin() + first, wanted.begin() + last + 1);
+            endInsertRows();
+        }
+    }
+    announce(firstBlocked(), rowCount() - 1, {headingRole});
+    ++revision_;
+    Q_EMIT contentChanged();
+}
+
+std::vector<QString> RecipientsModel::visibleKeys() const {
+    std::vector<QString> keys;
+    std::vector<QString> blocked;
+    for (const qsizetype index : model_.visibleRecipients()) {
+        const Recipient& each = model_.recipients()[static_cast<size_t>(index)];
+        (each.usable ? keys : blocked).push_back(keyOf(each));
+    }
+    keys.insert(keys.end(), blocked.begin(), blocked.end());
+    return keys;
+}
+
+// A part of each row is another.
+
+void RecipientsModel::followSelection() {
+    const QSet<QString> before = std::exchange(selection_, model_.selection());
+    int first = -1;
+    int last = -1;
+    for (int row = 0; row < rowCount(); ++row) {
+        const Recipient* recipient = recipientAt(row);
+        if (recipient == nullptr ||
+            before.contains(recipient->id) == selection_.contains(recipient->id))
+            continue;
+        first = first < 0 ? row : first;
+        last = row;
+    }
+    announce(first, last, {checkedRole, rowOpacityRole, spokenRole});
+    if (model_.selectedOnly)
+        followRows();
+}
+
+void RecipientsModel::followConfig() {
+    const QString before = std::exchange(senderNumber_, model_.config().senderNumber);
+    if (before != senderNumber_)
+        announceAll({threadSymbolRole, threadSymbolColorRole});
+}
+
+void RecipientsModel::followRun() {
+    const bool before = std::exchange(enabled_, enabled());
+    if (before == enabled_)
+        return;
+    Q_EMIT enabledChanged();
+    announceAll({checkableRole, offersNoteRole});
+}
+
+void RecipientsModel::followEditing() {
+    const auto before = std::exchange(editingNoteID_, model_.editingNoteID.value());
+    for (const auto& id : {before, editingNoteID_}) {
+        const auto row = id ? std::ranges::find(rows_, *id) : rows_.end();
+        if (row != rows_.end()) {
+            const int changed = static_cast<int>(row - rows_.begin());
+            announce(changed, changed, {showsNoteRole, offersNoteRole});
+        }
+    }
+}
+
+void RecipientsModel::announce(int first, int last, const QList<int>& roles) {
+    if (first >= 0 && last >= first)
+        Q_EMIT dataChanged(index(first), index(last), roles);
+}
+
+// What stands around the rows.
+
+bool RecipientsModel::enabled() const {
+    return !model_.runner().isActive();
+}
+
+bool RecipientsModel::selectedOnly() const {
+    return model_.selectedOnly;
+}
+
+QString RecipientsModel::searchText() const {
+    return model_.searchText;
+}
+
+bool RecipientsModel::isFiltered() const {
+    return model_.selectedOnly || !model_.searchText.value().isEmpty();
+}
+
+QString RecipientsModel::selectTitle() const {
+    return isFiltered() ? u"Select Shown"_s : u"Select All"_s;
+}
+
+QString RecipientsModel::clearTitle() const {
+    return isFiltered() ? u"Clear Shown"_s : u"Clear All"_s;
+}
+
+bool RecipientsModel::showsNobody() const {
+    return rows_.empty() && model_.bootstrapped;
+}
+
+QString RecipientsModel::emptyIcon() const {
+    if (model_.recipients().empty())
+        return u"person.crop.circle.badge.questionmark"_s;
+    return searchText().isEmpty() ? u"checkmark.circle"_s : u"magnifyingglass"_s;
+}
+
+QString RecipientsModel::emptyTitle() const {
+    if (model_.recipients().empty())
+        return u"Nobody in this list"_s;
+    return searchText().isEmpty() ? u"Nobody selected yet"_s : u"No matches"_s;
+}
+
+QString RecipientsModel::emptyMessage() const {
+    if (model_.recipients().empty())
+        return u"Add people to this group in Contacts, then choose Reload."_s;
+    return searchText().isEmpty() ? u"Switch to All and check the people you want to text."_s
+                                  : u"Nobody in this list matches your search."_s;
+}
+
+void RecipientsModel::setTopRow(int row) {
+    if (std::exchange(topRow_, row) != row)
+        Q_EMIT topRowChanged();
+}
+
+// What the user does.
+
+void RecipientsModel::search(const QString& text) {
+    if (enabled())
+        model_.searchText = text;
+}
+
+void RecipientsModel::showSelectedOnly(bool only) {
+    if (enabled())
+        model_.selectedOnly = only;
+}
+
+void RecipientsModel::selectShown() {
+    model_.selectShown();
+}
+
+void RecipientsModel::clearShown() {
+    model_.clearShown();
+}
+
+void RecipientsModel::setChecked(int row, bool checked) {
+    const Recipient* recipient = recipientAt(row);
+    if (recipient != nullptr && isCheckable(*recipient))
+        model_.setSelected(recipient->id, checked);
+}
+
+void RecipientsModel::toggle(int row) {
+    const Recipient* recipient = recipientAt(row);
+    if (recipient != nullptr)
+        setChecked(row, !isChecked(*recipient));
+}
+
+void RecipientsModel::editNote(int row) {
+    const Recipient* recipient = recipientAt(row);
+    if (recipient != nullptr && recipient->usable)
+        model_.editingNoteID = recipient->id;
+}
+
+void RecipientsModel::setNote(int row, const QString& note) {
+    const Recipient* recipient = recipientAt(row);
+    if (recipient != nullptr && recipient->usable && enabled())
+        model_.setNote(recipient->id, note);
+}
+
+}  // namespace velmora

@@ -1,0 +1,85 @@
+#include "ui/run/run_display.h"
+
+#include <QLocale>
+#include <cmath>
+
+#include "sending/send_outcome.h"
+
+namespace velmora {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString joined(QStringList parts) {
+    parts.removeAll(QString());
+    return parts.join(u" \u00B7 "_s);
+}
+
+QString progressText(const Runner& runner) {
+    return runner.total >= 1 ? u"%1 of %2"_s.arg(runner.done.value()).arg(runner.total.value())
+                             : QString();
+}
+
+QString nowText(const Runner& runner) {
+    if (runner.state != Runner::State::running)
+        return {};
+    if (const auto& name = runner.current.value())
+        return QString(u"Sending to "_s + *name + u'\u2026');
+    if (const auto& seconds = runner.nextIn.value())
+        return QString(u"Next in "_s + QString::number(*seconds) + u's');
+    return {};
+}
+
+QString wholeSeconds(double delay) {
+    constexpr double beyondWhole = 0x1p63;
+    const bool whole = std::isfinite(delay) && delay >= -beyondWhole && delay < beyondWhole;
+    return whole ? QString::number(static_cast<qint64>(delay))
+                 : QString::number(delay, 'g', QLocale::FloatingPointShortest);
+}
+
+}  // namespace
+
+QString statusLine(const Runner& runner) {
+    return joined({progressText(runner), nowText(runner), runner.message});
+}
+
+QString sendTitle(qsizetype people) {
+    return people == 0 ? u"Send"_s : u"Send to %1\u2026"_s.arg(people);
+}
+
+QString confirmTitle(qsizetype people) {
+    return u"Send to %1 %2?"_s.arg(people).arg(people == 1 ? u"person"_s : u"people"_s);
+}
+
+QString paceLine(const AppConfig& config) {
+    return wholeSeconds(config.delayMin) + u" to "_s + wholeSeconds(config.delayMax) +
+           u" seconds apart"_s;
+}
+
+QString messageHint(const QString& message) {
+    return message.contains("---"_L1) ? u"Each person always gets the same version."_s
+                                      : u"Insert adds a first name, a note, or another version."_s;
+}
+
+QString statusSymbol(const QString& status) {
+    if (status == statusSent)
+        return u"checkmark.circle.fill"_s;
+    return status == statusFailed ? u"xmark.octagon.fill"_s : u"exclamationmark.triangle.fill"_s;
+}
+
+QString statusColor(const QString& status) {
+    if (status == statusSent)
+        return u"green"_s;
+    return status == statusFailed ? u"red"_s : u"orange"_s;
+}
+
+QString entryDetails(const LogEntry& entry) {
+    return joined({QString(entry.status).replace(u'_', u' '), entry.service, entry.detail});
+}
+
+QString clockTime(const LogEntry& entry) {
+    return QLocale().toString(localTime(entry.time).time(), QLocale::ShortFormat);
+}
+
+}  // namespace velmora

@@ -1,0 +1,16 @@
+#include "ui/window/presentation.h"
+
+namespace velmora {
+
+Presentation::Presentation(AppModel& model)
+    : window_(model),
+      menus_(model),
+      sidebar_(model),
+      recipients_(model),
+      compose_(model),
+      activity_(model.runner()),
+      confirm_(model),
+      settings_(model),
+      firstRun_(model) {}
+
+}  // namespace velmora

@@ -1,0 +1,174 @@
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <random>
+
+#include "storage/config_store.h"
+#include "storage/log_time.h"
+#include "storage/send_log.h"
+
+using namespace Qt::StringLiterals;
+using namespace velmora;
+
+// Texting somebody in the night, or never at all.
+TEST(SendingHours, BothEndsAreInsideAndMidnightMayBe) {
+    // The two hours, then times of the day; "!" marks those outside.
+    for (const QString& text : {u"10:00 20:00 !09:59:59 10:00:00 20:00:59 !20:01:00"_s,
+                                u"22:00 6:00 22:00:00 23:30:00 06:00:59 !06:01:00 !21:59:00"_s,
+                                u"9:00 9:00 09:00:00 !09:01:00"_s, u"ten 20:00 03:00:00"_s,
+                                u"10:00 9223372036854775807:0 03:00:00"_s}) {
+        const QStringList words = text.split(u' ');
+        AppConfig config;
+        config.quietStart = words[0];
+        config.quietEnd = words[1];
+        for (const QString& word : words.sliced(2)) {
+            const QDateTime time(QDate(2025, 7, 1), QTime::fromString(word.right(8)));
+            EXPECT_EQ(isOutsideSendingHours(config, momentOf(time)), word.startsWith(u'!'))
+                << qPrintable(text + u" at "_s + word);
+        }
+    }
+    for (const QString& text : {u"25:99 1599"_s, u"7:5 425"_s, u":10::x:30: 630"_s, u"+1:-5 55"_s,
+                                u"1:2:99999999999999999999 62"_s})
+        EXPECT_EQ(minutesOfDay(text.section(u' ', 0, 0)), text.section(u' ', 1).toInt());
+    for (const QString& text : {u""_s, u"10"_s, u"1:2:3"_s, u"10: 30"_s, u"+:1"_s, u"--1:1"_s,
+                                u"\u0661\u0660:00"_s, u"1,000:0"_s})
+        EXPECT_EQ(minutesOfDay(text), std::nullopt) << text.toStdString();
+}
+
+// Another key or default would change the settings of everyone who updates.
+TEST(ConfigJSON, HasItsKeysAndDefaultsInCodePointOrder) {
+    const QByteArray json = encodeConfig(AppConfig()).value();
+    EXPECT_EQ(json.simplified(),
+              R"({ "delayMax": 60.0, "delayMin": 30.0, "maxFailures": 3, "maxPerRun": 60, )"
+              R"("notes": {}, "picks": {}, "quietEnd": "20:00", "quietStart": "10:00", )"
+              R"("senderNumber": "", "templates": {}, "termsAccepted": "", "verifyWait": 20.0 })");
+    EXPECT_EQ(json.count("\n  \""), 12) << "a line for each key";
+    AppConfig ordered;
+    ordered.templates = {{u"\U0001f600"_s, {}}, {u"\uff5e"_s, {}}};
+    const QByteArray text = encodeConfig(ordered).value();
+    EXPECT_LT(text.indexOf("\uff5e"), text.indexOf("\U0001f600"));
+    AppConfig endless;
+    endless.delayMax = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(encodeConfig(endless), std::nullopt);
+}
+
+// A file edited by hand must neither be misread nor lose more than it has to.
+TEST(ConfigJSON, OnlyWrongTypesAndBrokenTextGiveNothing) {
+    AppConfig expected;
+    expected.senderNumber = u"+1"_s;
+    expected.delayMin = 5;
+    EXPECT_EQ(decodeConfig(R"( {"senderNumber":"+1","maxPerRun":60.0,"delayMin":5,"notes":null,
+        "selectedGroupID":null,"verifyWait":null,"other":{"notes":[[[[[1]]]]]},"SENDERNUMBER":3} )"),
+              expected);
+    EXPECT_EQ(decodeConfig("{}"), AppConfig());
+    QByteArrayList members = QByteArray(R"("delayMin":"5" "delayMin":true "delayMax":1e999
+        "maxPerRun":"60" "maxPerRun":60.5 "maxPerRun":true "maxPerRun":9223372036854775808
+        "maxPerRun":1e19 "maxPerRun":-9223372036854775809 "senderNumber":1 "selectedGroupID":{}
+        "templates":[] "templates":{"g":null} "notes":{"g":1} "picks":{"g":"1"}
+        "picks":{"g":[null]} "picks":{"g":[["1"]]} "termsAcceptedAt":"now" "quietEnd":"\ud800"
+        "quietEnd":"20:00)")
+                                 .simplified()
+                                 .split(' ');
+    members << "\"quietEnd\":\"\xff\"" << "\"quietEnd\":\"\xed\xa0\x80\"";
+    for (const QByteArray& member : members)
+        EXPECT_EQ(decodeConfig("{\"senderNumber\":\"+1\"," + member + "}"), std::nullopt)
+            << member.constData();
+    for (const QByteArray& text : {QByteArray(), QByteArray("[]"), QByteArray("{} x")})
+        EXPECT_EQ(decodeConfig(text), std::nullopt);
+}
+
+// Recursion over a hostile file overflows the stack, building all of it fills the memory, and
+// looking over the whole for each part of it takes minutes.
+TEST(ConfigJSON, SurvivesDepthAndBreadth) {
+    const QByteArray open(100'000, '[');
+    const QByteArray deep = open + QByteArray(100'000, ']');
+    EXPECT_EQ(decodeConfig(open), std::nullopt);
+    EXPECT_EQ(decodeConfig("{\"picks\":{\"g\":" + deep + "}}"), std::nullopt);
+    EXPECT_EQ(decodeConfig("{\"other\":" + deep + "}"), AppConfig());
+    EXPECT_EQ(decodeConfig("{\"picks\":" + QByteArray(5'000'000, '[')), std::nullopt);
+    QByteArray members;
+    for (int key = 0; key < 300'000; ++key)
+        members += '"' + QByteArray::number(key) + "\":{},";
+    EXPECT_EQ(decodeConfig("{\"notes\":{" + members + "\"a\":{}}}"), std::nullopt);
+    const QByteArray list = '[' + QByteArray("{},").repeated(300'000) + "{}]";
+    EXPECT_EQ(decodeConfig(list), std::nullopt);
+    EXPECT_EQ(decodeConfig("{\"picks\":{\"g\":" + list + "}}"), std::nullopt);
+    EXPECT_EQ(decodeConfig("{\"other\":" + list + "}"), AppConfig());
+}
+
+TEST(SafeFileStem, KeepsLettersMarksAndNumbersOfEveryScript) {
+    EXPECT_EQ(safeFileStem(u"Spring Party 2025!"_s), u"Spring-Party-2025"_s);
+    EXPECT_EQ(safeFileStem(u"../a/b\\c"_s), u"a-b-c"_s);
+    EXPECT_EQ(safeFileStem(u"_-a  b-_-"_s), u"_-a--b-_"_s);
+    EXPECT_EQ(safeFileStem(u"\u00e9e\u0301\u0928\u093f\u0663\u00bd\U00020000"_s),
+              u"\u00e9e\u0301\u0928\u093f\u0663\u00bd\U00020000"_s);
+    EXPECT_EQ(safeFileStem(u"a\U0001f600b"_s + QChar(0xd800) + u"c"_s), u"a-b-c"_s);
+    for (const QString& name : {u""_s, u"!?."_s, u"---"_s})
+        EXPECT_EQ(safeFileStem(name), u"batch"_s);
+}
+
+TEST(ParseCSV, FollowsEachRule) {
+    const std::vector<std::pair<QString, QString>> cases = {
+        {u"a,b\r\nc,d\n"_s, u"a|b/c|d"_s},
+        {u"a\r\rb\rc,\r\n"_s, u"abc|"_s},
+        {u"\"a\r\nb\rc\",d"_s, u"a\r\nb\rc|d"_s},
+        {u"a\"b,\"\"c\"d"_s, u"ab,\"cd"_s},
+        {u"\"a\"\r\n\"b\"\rc\"\"\"\""_s, u"a/bc\""_s},
+        {u"\"a\",\"b\"x\"y\"\n"_s, u"a|bxy"_s},
+        {u"a,\"open\n,"_s, u"a|open\n,"_s},
+        {u"a\n\nb"_s, u"a//b"_s},
+        {u"a,"_s, u"a|"_s},
+    };
+    for (const auto& [text, expected] : cases) {
+        QStringList rows;
+        for (const QStringList& fields : parseCSV(text))
+            rows += fields.join(u'|');
+        EXPECT_EQ(rows.join(u'/'), expected);
+    }
+    for (const QString& text : {u""_s, u"\""_s, u"\"\""_s, u"\r"_s})
+        EXPECT_TRUE(parseCSV(text).empty());
+}
+
+TEST(ParseCSV, ReadsBackWhateverIsWritten) {
+    std::mt19937 engine(20250314);
+    const QString alphabet = u"a,\"\n\u00e9\u2028 \u0000"_s;
+    std::vector<QStringList> rows;
+    QString text;
+    for (int count = 0; count < 5000; ++count) {
+        QStringList fields(8);
+        fields[0] = u"first"_s;
+        for (QString& field : fields) {
+            while (engine() % 5 != 0)
+                field += alphabet[engine() % alphabet.size()];
+        }
+        text += formatCSV(fields);
+        rows.push_back(fields);
+    }
+    EXPECT_EQ(parseCSV(text), rows);
+}
+
+// A time an hour off after a change of the clocks, or a row that is not understood.
+TEST(LogTime, CarriesTheOffsetOfItsDay) {
+    EXPECT_EQ(formatLogTime({763657200.99}), u"2025-03-14T11:00:00-04:00"_s);
+    EXPECT_EQ(formatLogTime({-0.5}, 0), u"2000-12-31T23:59:59Z"_s);
+    EXPECT_EQ(formatLogTime({-0.5}, 60), u"2001-01-01T00:59:59+01:00"_s);
+    EXPECT_EQ(formatLogTime({-0.5}, 345), u"2001-01-01T05:44:59+05:45"_s);
+    EXPECT_EQ(formatLogTime({-0.5}, -210), u"2000-12-31T20:29:59-03:30"_s);
+    EXPECT_EQ(formatLogTime({std::numeric_limits<double>::infinity()}).left(4), u"9999"_s);
+    const double autumn = 783928800;  // 2025-11-04 06:00 UTC
+    for (double hour = -72; hour < 0; ++hour) {
+        const Moment moment{autumn + hour * 3600};
+        EXPECT_EQ(parseLogTime(formatLogTime(moment)), moment);
+    }
+    EXPECT_EQ(parseLogTime(u"2025-03-14T15:00:00Z"), Moment{763657200});
+    EXPECT_EQ(parseLogTime(u"2025-03-14T20:45:00+05:45"), Moment{763657200});
+    EXPECT_EQ(parseLogTime(u"2024-02-29T00:00:00Z"), Moment{730857600});
+    for (const char16_t* text :
+         {u"", u"2025-03-14T15:00:00", u"2025-03-14T15:00:00.5Z", u"2025-03-14 15:00:00Z",
+          u"2025-02-29T00:00:00Z", u"2025-13-01T00:00:00Z", u"2025-03-14T24:00:00Z",
+          u"2025-03-14T15:60:00Z", u"2025-03-14T15:00:00+0100", u"2025-03-14T15:00:00Z ",
+          u" 2025-03-14T15:00:00Z", u"2025-3-14T15:00:00Z", u"2025-03-14T15:00:00+01:00x",
+          u"\u0662025-03-14T15:00:00Z", u"2025-03-14T15:00:00z"})
+        EXPECT_EQ(parseLogTime(QStringView(text)), std::nullopt)
+            << QStringView(text).toString().toStdString();
+}

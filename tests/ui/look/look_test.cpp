@@ -1,0 +1,213 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPalette>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <cmath>
+#include <memory>
+#include <numeric>
+#include <vector>
+
+#include "ui/first_run/full_disk_access_timeline.h"
+#include "ui/look/drawn_look.h"
+#include "ui/look/fixed_digits.h"
+#include "ui/look/symbol_image_provider.h"
+
+void qml_register_types_Velmora();  // NOLINT(readability-identifier-naming): the toolkit's name
+
+namespace velmora {
+
+namespace {
+
+const QColor tint(0x12, 0x34, 0x56);
+
+std::vector<QRgb> pixels(const QImage& image) {
+    const QImage argb = image.convertToFormat(QImage::Format_ARGB32);
+    const auto* first = reinterpret_cast<const QRgb*>(argb.constBits());
+    return {first, first + argb.sizeInBytes() / 4};
+}
+
+/// How much is drawn: 1 is one fully covered pixel.
+double coverage(const QImage& image) {
+    const auto add = [](double sum, QRgb pixel) { return sum + (qAlpha(pixel) / 255.0); };
+    const std::vector<QRgb> all = pixels(image);
+    return std::accumulate(all.begin(), all.end(), 0.0, add);
+}
+
+// Catches a drawing without content, in its own color or cut off, and a light one as thick as
+// usual.
+TEST(Symbols, areTintedOnTheirGridAndThinnerWhenLight) {
+    const DrawnLook source;
+    const QStringList files = QDir(QStringLiteral(":/velmora/symbols")).entryList();
+    ASSERT_FALSE(files.isEmpty());
+    for (const QString& file : files) {
+        const QString name = file.chopped(4);
+        SCOPED_TRACE(qUtf8Printable(name));
+        const QImage small = source.symbol(name, {16, 16}, tint, SymbolWeight::regular);
+        EXPECT_GT(coverage(small), 8);
+        // Four pixels to a unit of the grid, whose outermost two units stay clear.
+        const QImage large = source.symbol(name, {96, 96}, tint, SymbolWeight::regular);
+        for (const QRgb pixel : pixels(large))
+            EXPECT_TRUE(qAlpha(pixel) < 255 || pixel == tint.rgba()) << std::hex << pixel;
+        EXPECT_NEAR(coverage(large), coverage(large.copy(7, 7, 82, 82)), 1e-6);
+        const QImage light = source.symbol(name, {96, 96}, tint, SymbolWeight::light);
+        const double ratio = coverage(light) / coverage(large);
+        EXPECT_TRUE(name.endsWith(u".fill") ? ratio == 1 : ratio < 0.85) << ratio;
+    }
+}
+
+// Catches a symbol that is stretched, in another color, or taken from a wrong address.
+TEST(Symbols, theProviderReadsItsAddressAndRefusesAnyOther) {
+    SymbolImageProvider provider(std::make_unique<DrawnLook>());
+    QSize size;
+    const auto request = [&](const char* id, QSize requested) {
+        return provider.requestImage(QString::fromLatin1(id), &size, requested);
+    };
+    const QImage wide = request("xmark.circle.fill/regular/12345680", {60, 30});
+    EXPECT_EQ(size, QSize(60, 30));
+    EXPECT_EQ(pixels(wide.copy(22, 15, 1, 1)).front(), 0x80123456U);
+    EXPECT_EQ(coverage(wide.copy(0, 0, 15, 30)), 0) << "stretched";
+    EXPECT_EQ(request("iphone/light/000000ff", {0, 42}).size(), QSize(42, 42));
+    for (const char* id : {"no.such.symbol/regular/000000ff", "iphone/heavy/000000ff", "iphone"})
+        EXPECT_TRUE(request(id, {16, 16}).isNull()) << id;
+}
+
+// Catches a picture that is stretched, off its place or of another scale, and one without a size.
+TEST(Pictures, anIconIsCentredAndAPointerHasItsTipInTheCorner) {
+    SymbolImageProvider provider(std::make_unique<DrawnLook>());
+    const QImage icon = provider.requestImage(QStringLiteral("applicationIcon"), nullptr, {80, 40});
+    EXPECT_EQ(coverage(icon.copy(0, 0, 20, 40)) + coverage(icon.copy(60, 0, 20, 40)), 0);
+    EXPECT_GT(coverage(icon.copy(20, 0, 40, 40)), 900);
+    const QImage arrow = provider.requestImage(QStringLiteral("arrowPointer"), nullptr, {64, 64});
+    EXPECT_NEAR(coverage(arrow), coverage(arrow.copy(0, 0, 28, 40)), 1e-6);
+    EXPECT_GT(coverage(arrow.copy(0, 0, 4, 4)), 12) << "the tip is elsewhere";
+    EXPECT_GT(coverage(arrow.copy(0, 32, 28, 8)), 8) << "too small";
+    EXPECT_TRUE(DrawnLook().picture(SystemPicture::applicationIcon, {0, 5}).isNull());
+}
+
+double luminance(const QColor& color) {
+    const auto linear = [](float part) {
+        return part <= 0.03928F ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return (0.2126 * linear(color.redF())) + (0.7152 * linear(color.greenF())) +
+           (0.0722 * linear(color.blueF()));
+}
+
+// The contrast of the Web Content Accessibility Guidelines 2.1, from 1 to 21.
+double contrast(const QColor& one, const QColor& other) {
+    const double ratio = (luminance(one) + 0.05) / (luminance(other) + 0.05);
+    return std::max(ratio, 1 / ratio);
+}
+
+QColor over(const QColor& below, const QColor& color, double opacity) {
+    const auto mixed = [&](float top, float ground) {
+        return static_cast<float>((top * opacity) + (ground * (1 - opacity)));
+    };
+    return QColor::fromRgbF(mixed(color.redF(), below.redF()),
+                            mixed(color.greenF(), below.greenF()),
+                            mixed(color.blueF(), below.blueF()));
+}
+
+// Catches a text whose colour is too close to what it stands on, in light or in dark, in a row that
+// is drawn faint or has the keyboard, and a theme that does not follow the desktop.
+TEST(Theme, TextStandsOutOnEverything) {
+    qml_register_types_Velmora();
+    QQmlEngine engine;
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    QQmlComponent component(&engine);
+    component.setData("import QtQml\nimport Velmora\nQtObject { property var theme: Theme }", {});
+    const std::unique_ptr<QObject> holder(component.create());
+    ASSERT_TRUE(holder) << component.errorString().toStdString();
+    const QObject* theme = holder->property("theme").value<QObject*>();
+    const auto color = [theme](const std::string& name) {
+        return theme->property(name.c_str()).value<QColor>();
+    };
+    const auto expectContrast = [&](const std::string& text, const QColor& ground, double opacity) {
+        EXPECT_GE(contrast(over(ground, color(text), opacity), ground), 4.5)
+            << text << " on " << ground.name().toStdString() << ", dark "
+            << theme->property("dark").toBool();
+    };
+    const QPalette before = QGuiApplication::palette();
+    for (const bool dark : {true, false}) {
+        QPalette palette;
+        palette.setColor(QPalette::Window, dark ? Qt::black : Qt::white);
+        palette.setColor(QPalette::WindowText, dark ? Qt::white : Qt::black);
+        QGuiApplication::setPalette(palette);
+        QCoreApplication::processEvents();
+        ASSERT_EQ(theme->property("dark").toBool(), dark);
+        const QColor window = color("windowBackground");
+        const QColor focused = over(window, color("quaternary"), color("quaternary").alphaF());
+        for (const QColor& ground : {window, focused}) {
+            for (const char* ink : {"primary", "secondary", "tertiary", "accentText", "green"}) {
+                expectContrast(ink, ground, 1);
+                expectContrast(std::string(ink) + "Faint", ground, 0.72);
+            }
+        }
+        for (const char* ground : {"sidebarBackground", "sheetBackground", "groupBackground",
+                                   "textBackground", "menuBackground"})
+            for (const char* ink : {"primary", "secondary"})
+                expectContrast(ink, color(ground), 1);
+        for (const char* ground : {"controlBackground", "controlHover", "controlPressed"})
+            for (const char* ink : {"primary", "destructive"})
+                expectContrast(ink, color(ground), 1);
+        for (const char* ground : {"accent", "accentHover", "accentPressed"})
+            expectContrast("overAccent", color(ground), 1);
+    }
+    QGuiApplication::setPalette(before);
+}
+
+// Catches a number that changes its width while it counts, and one that is not drawn.
+TEST(FixedDigits, TakeTheSameWidth) {
+    FixedDigits narrow;
+    FixedDigits wide;
+    narrow.setPixelSize(12);
+    wide.setPixelSize(12);
+    narrow.setText(QStringLiteral("1:11 AM"));
+    wide.setText(QStringLiteral("8:40 AM"));
+    EXPECT_GT(narrow.implicitWidth(), 0);
+    EXPECT_EQ(narrow.implicitWidth(), wide.implicitWidth());
+    wide.setPixelSize(24);
+    EXPECT_GT(wide.implicitWidth(), narrow.implicitWidth() * 1.5);
+    QImage image(200, 50, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    wide.setColor(tint);
+    wide.paint(&painter);
+    EXPECT_GT(coverage(image), 50);
+}
+
+// Catches a drawing that jumps in or out, a pointer that does not end on the switch or presses it
+// at another moment than the switch turns, and a place outside the loop for an early date.
+TEST(FullDiskAccessTimeline, ThePointerGlidesToTheSwitchAndTurnsIt) {
+    struct Frame {
+        double time, opacity, x, y, scale, switchedOn;
+    };
+    FullDiskAccessTimeline timeline;
+    for (const Frame& frame : {Frame{0, 0, 250, 180, 1, 0},
+                               {0.15, 0.5, 250, 180, 1, 0},
+                               {0.8, 1, 250 + (23 * 0.15625), 180 - (90 * 0.15625), 1, 0},
+                               {2.2, 1, 273, 90, 0.86, 0},
+                               {2.35, 1, 273, 90, 1, 0.5},
+                               {6.3, 1, 273, 90, 1, 1},
+                               {6.6, 0.5, 273, 90, 1, 1},
+                               {6.95, 0, 273, 90, 1, 1}}) {
+        SCOPED_TRACE(frame.time);
+        timeline.setTime(frame.time);
+        EXPECT_NEAR(timeline.opacity(), frame.opacity, 1e-9);
+        EXPECT_NEAR(timeline.pointerX(), frame.x, 1e-9);
+        EXPECT_NEAR(timeline.pointerY(), frame.y, 1e-9);
+        EXPECT_EQ(timeline.pointerScale(), frame.scale);
+        EXPECT_NEAR(timeline.switchedOn(), frame.switchedOn, 1e-9);
+    }
+    timeline.setStill(true);
+    EXPECT_EQ(timeline.opacity() * timeline.switchedOn(), 1);
+    EXPECT_DOUBLE_EQ(FullDiskAccessTimeline::phase({7'000'003.5}), 3.5);
+    EXPECT_DOUBLE_EQ(FullDiskAccessTimeline::phase({-1}), 6);
+}
+
+}  // namespace
+
+}  // namespace velmora

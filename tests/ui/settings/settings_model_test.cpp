@@ -1,0 +1,153 @@
+#include "ui/settings/settings_model.h"
+
+#include <QSignalSpy>
+
+#include "app/app_home.h"
+#include "ui/controls/clock_fields.h"
+#include "ui/controls/number_text.h"
+
+namespace velmora {
+
+namespace {
+
+class Settings : public AppHome {
+  protected:
+    SettingsModel& settings() { return view.emplace(*model); }
+
+    std::optional<SettingsModel> view;
+};
+
+// Catches a wrong count, a chosen number that vanishes because this computer does not know it any
+// more, and a choice that stores another number or leaves the people checked against the old one.
+TEST_F(Settings, OffersTheNumbersAndChecksTheListAgainstTheChosenOne) {
+    withFriends();
+    model->numbers = {{myLine, 42}, {myOtherLine, 0}};
+    EXPECT_EQ(settings().senderOptions(),
+              (QStringList{u"Choose a number"_s, u"(212) 555-9999  (42 messages)"_s,
+                           u"(212) 555-8888"_s}));
+    EXPECT_EQ(view->senderIndex(), 1);
+    const std::optional<QString> before = recipient(u"ann"_s).issue;
+    view->chooseSender(2);
+    EXPECT_EQ(stored().senderNumber, myOtherLine);
+    EXPECT_NE(recipient(u"ann"_s).issue, before);
+    view->chooseSender(3);
+    EXPECT_EQ(stored().senderNumber, myOtherLine);
+
+    model->setSenderNumber(u"+12125557777"_s);
+    EXPECT_EQ(view->senderOptions().last(), u"(212) 555-7777  (not found on this Mac)"_s);
+    EXPECT_EQ(view->senderIndex(), 3);
+    model->numbers = std::vector<NumberInfo>();
+    EXPECT_EQ(view->senderIndex(), 1);
+    view->chooseSender(0);
+    EXPECT_EQ(stored().senderNumber, QString());
+    EXPECT_EQ(view->senderOptions(), QStringList{u"Choose a number"_s});
+}
+
+// Catches a pacing control that stores nothing, another field or a value out of range; settings
+// that a field's late commit moves under a run, and a view that is not told when they are free.
+TEST_F(Settings, PacingIsStoredButNotDuringARun) {
+    withFriends().selectShown();
+    settings().setTestPhone(u"212 555 0102"_s);
+    const auto change = [&](int by) {
+        view->setDelayMin(45.5 + by);
+        view->setDelayMax(120 + by);
+        view->setStart(7 + by, 5);
+        view->setEnd(21 + by, 30);
+        view->setMaxFailures(11 - 10 * by);
+    };
+    change(0);
+    const AppConfig before = stored();
+    EXPECT_EQ(before.delayMin, 45.5);
+    EXPECT_EQ(before.delayMax, 120);
+    EXPECT_EQ(before.quietStart + u'-' + before.quietEnd, u"07:05-21:30"_s);
+    EXPECT_EQ(before.maxFailures, 10);
+    EXPECT_EQ((QList{view->startHour(), view->startMinute(), view->endHour(), view->endMinute()}),
+              (QList{7, 5, 21, 30}));
+    model->startRun();
+    EXPECT_TRUE(view->locked());
+    change(1);
+    view->chooseSender(0);
+    view->sendTest();
+    EXPECT_EQ(stored(), before);
+    EXPECT_EQ(view->testResult(), QString());
+
+    const QSignalSpy told(&*view, &SettingsModel::changed);
+    model->runner().stop();
+    ASSERT_TRUE(world.clock.runUntilIdle());
+    EXPECT_FALSE(view->locked());
+    EXPECT_FALSE(told.isEmpty());
+    view->setMaxFailures(0);
+    EXPECT_EQ(view->failuresText(), u"Pause after 1 failures in a row"_s);
+}
+
+// Catches a test that is sent before the terms are accepted, without a number or twice at once, and
+// an outcome that is not shown.
+TEST_F(Settings, SendsOneTestAtATime) {
+    started();
+    settings().setTestPhone(u"(212) 555-0102"_s);
+    EXPECT_FALSE(view->canSendTest());
+    model->acceptTerms();
+    view->setTestPhone({});
+    EXPECT_FALSE(view->canSendTest());
+    view->setTestPhone(u"(212) 555-0102"_s);
+    ASSERT_TRUE(view->canSendTest());
+    view->sendTest();
+    EXPECT_FALSE(view->canSendTest());
+    world.clock.advance(60);
+    EXPECT_TRUE(view->canSendTest());
+    EXPECT_EQ(view->testResult(),
+              u"Sent by iMessage from (212) 555-9999. That matches your sending number."_s);
+}
+
+// Catches a number that is shown with grouping or too few digits, and text that passes for one.
+TEST(NumberField, ReadsAndWritesDecimalNumbers) {
+    EXPECT_EQ(NumberText::shown(1234.125), u"1234.125"_s);
+    EXPECT_EQ(NumberText::value(u" 45.5 "_s), 45.5);
+    for (const QString& text : {u""_s, u"4 5"_s, u"soon"_s, u"inf"_s, u"nan"_s})
+        EXPECT_FALSE(NumberText::readable(text)) << text.toStdString();
+}
+
+// Catches typed digits that don't become one number or leave the range, steps that don't wrap, a
+// midnight or noon that counts as the other where the language counts to twelve, and parts that
+// stand otherwise than the language writes them.
+TEST(ClockFields, TakeDigitsAndSteps) {
+    ClockFields clock;
+    QObject::connect(&clock, &ClockFields::picked, [&](int hour, int minute) {
+        clock.setHour(hour);
+        clock.setMinute(minute);
+    });
+    const auto shows = [&] { return clock.hourText() + u':' + clock.minuteText(); };
+    clock.typeHour(u"1"_s);
+    clock.typeHour(u"7"_s);
+    EXPECT_EQ(shows(), u"17:00"_s);
+    clock.typeHour(u"2"_s);
+    clock.typeHour(u"9"_s);
+    clock.endTyping();
+    clock.typeMinute(u"4"_s);
+    clock.typeMinute(u"5"_s);
+    EXPECT_FALSE(clock.typeMinute(u"x"_s));
+    EXPECT_EQ(shows(), u"09:45"_s);
+    clock.stepMinute(15);
+    clock.stepHour(-10);
+    EXPECT_EQ(shows(), u"23:00"_s);
+
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    ClockFields twelve;
+    QObject::connect(&twelve, &ClockFields::picked, [&](int hour) { twelve.setHour(hour); });
+    EXPECT_EQ(twelve.hourText() + twelve.halfText(), u"12AM"_s);
+    twelve.stepHalf(1);
+    EXPECT_EQ(twelve.hourText() + twelve.halfText(), u"12PM"_s);
+    twelve.typeHour(u"1"_s);
+    twelve.typeHour(u"1"_s);
+    EXPECT_EQ(twelve.hour(), 23);
+    QLocale::setDefault(QLocale(u"ko_KR"_s));
+    EXPECT_TRUE(ClockFields().halfFirst());
+    QLocale::setDefault(QLocale(u"fr_CA"_s));
+    EXPECT_EQ(ClockFields().separator(), u" h "_s);
+    QLocale::setDefault(before);
+}
+
+}  // namespace
+
+}  // namespace velmora
