@@ -21,9 +21,8 @@ int main(int argc, char** argv) {
     ThreadBackground background;
     Platform platform = makePlatform(clock);
     // A platform with a look of its own takes the icon from the bundle, which this would replace.
-    if (!platform.look) {
+    if (!platform.look)
         QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/velmora/icon/velmora.svg")));
-    }
     AppModel model({.contacts = *platform.contacts,
                     .scripts = *platform.scripts,
                     .accountPreferences = *platform.accountPreferences,

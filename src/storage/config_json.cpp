@@ -70,10 +70,9 @@ bool read(const json& value, qint64& field) {
 bool read(const json& value, QStringList& field) {
     if (!value.is_array())
         return false;
-    for (const json& element : value) {
+    for (const json& element : value)
         if (!read(element, field.emplaceBack()))
             return false;
-    }
     return true;
 }
 
@@ -81,10 +80,9 @@ template <class Value>
 bool read(const json& value, QMap<QString, Value>& field) {
     if (!value.is_object())
         return false;
-    for (const auto& [key, element] : value.items()) {
+    for (const auto& [key, element] : value.items())
         if (!read(element, field[textOf(key)]))
             return false;
-    }
     return true;
 }
 

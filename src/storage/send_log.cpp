@@ -98,10 +98,9 @@ void readEntryRows(const QString& text, const Take& take) {
     CSVReader rows(text);
     if (!rows.nextRow())
         return;
-    while (rows.nextRow()) {
+    while (rows.nextRow())
         if (rows.fieldCount() >= Column::columnCount)
             take(rows);
-    }
 }
 
 // The text as a string of its own, or `previous` once more: most columns repeat from row to row.

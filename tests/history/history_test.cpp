@@ -98,10 +98,9 @@ TEST_F(MessagesDBTest, SenderNumbersAreTheSixBusiestUsedInNinetyDays) {
     record({.handle = annsPhone, .date = oldest});
     EXPECT_EQ(open().senderNumbers(now).value(), (std::vector<NumberInfo>{{u"+1"_s, 2}}));
     EXPECT_EQ(open().senderNumbers({-1e300}).value().size(), 2) << "no bound lies before all time";
-    for (int number = 3; number <= 9; ++number) {
+    for (int number = 3; number <= 9; ++number)
         for (int message = 0; message < number; ++message)
             add(u"+%1"_s.arg(number), oldest, true);
-    }
     const std::vector<NumberInfo> busiest{{u"+9"_s, 9}, {u"+8"_s, 8}, {u"+7"_s, 7},
                                           {u"+6"_s, 6}, {u"+5"_s, 5}, {u"+4"_s, 4}};
     EXPECT_EQ(open().senderNumbers(now).value(), busiest);

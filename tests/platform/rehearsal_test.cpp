@@ -209,10 +209,9 @@ TEST_F(SampleHomeTest, EveryNumberIsSetAsideForFiction) {
         u"^\\+(1[2-9]\\d\\d55501\\d\\d|447700900\\d{3}|467017406(0[5-9]|[1-9]\\d))$"_s);
     QStringList numbers;
     const auto people = contacts.allContacts();
-    for (const ContactRecord& person : people.value()) {
+    for (const ContactRecord& person : people.value())
         for (const PhoneEntry& entry : person.phoneNumbers)
             numbers.append(normalizePhone(entry.value).value_or(u"@example.com"_s));
-    }
     const auto handles = history().query(
         u"SELECT id FROM handle UNION SELECT destination_caller_id FROM message"_s, {});
     for (const auto& row : handles.value()) {

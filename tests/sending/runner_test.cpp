@@ -202,10 +202,9 @@ TEST(Pacing, DrawsBothEndsAndDrawsAgainWhereWordsAreUneven) {
 TEST(Pacing, StaysWithinADayForAnySettings) {
     const auto extremes = {1e308, -1e308, Real::infinity(), -Real::infinity(), Real::quiet_NaN(),
                            0.0,   -3.0};
-    for (const double delayMin : extremes) {
+    for (const double delayMin : extremes)
         for (const double delayMax : extremes)
             EXPECT_LE(std::abs(waitBetween(delayMin, delayMax)), 86400) << delayMin << delayMax;
-    }
     EXPECT_EQ(waitBetween(Real::quiet_NaN(), Real::quiet_NaN()), 0);
     EXPECT_EQ(waitBetween(Real::infinity(), 1e308), 86400);
     EXPECT_EQ(wholeSecondsUp(4.2), 5);
@@ -232,10 +231,9 @@ struct Simulation : SendingWorld {
             R"({"recordAfter": null})",
         };
         std::map<QString, QByteArray> people;
-        for (int n = 0; n < crowd; ++n) {
+        for (int n = 0; n < crowd; ++n)
             if (const size_t kind = static_cast<size_t>(n) * 4 % 13; kind < faults.size())
                 people[phone(n)] = faults[kind];
-        }
         messages(people);
         config.maxFailures = 2;
         config.quietEnd = u"11:20"_s;

@@ -137,10 +137,9 @@ TEST(ParseCSV, ReadsBackWhateverIsWritten) {
     for (int count = 0; count < 5000; ++count) {
         QStringList fields(8);
         fields[0] = u"first"_s;
-        for (QString& field : fields) {
+        for (QString& field : fields)
             while (engine() % 5 != 0)
                 field += alphabet[engine() % alphabet.size()];
-        }
         text += formatCSV(fields);
         rows.push_back(fields);
     }

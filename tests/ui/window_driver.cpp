@@ -33,10 +33,9 @@ QAccessibleInterface* findBelow(QAccessibleInterface* root, const QString& name,
     if (fits && root->text(QAccessible::Name) == name)
         return root;
     // The last child lies on top.
-    for (int child = root->childCount() - 1; child >= 0; --child) {
+    for (int child = root->childCount() - 1; child >= 0; --child)
         if (auto* found = findBelow(root->child(child), name, role))
             return found;
-    }
     return nullptr;
 }
 
@@ -181,10 +180,9 @@ QString WindowDriver::focused() const {
 }
 
 QWindow* WindowDriver::windowTitled(const QString& title) {
-    for (QWindow* each : QGuiApplication::allWindows()) {
+    for (QWindow* each : QGuiApplication::allWindows())
         if (each->isVisible() && each->title() == title)
             return each;
-    }
     return nullptr;
 }
 

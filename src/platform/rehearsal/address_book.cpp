@@ -122,10 +122,9 @@ std::expected<std::vector<ContactRecord>, ContactsError> AddressBook::membersOfG
             ContactsError{QStringLiteral("The group is no longer in the address book.")});
     const QSet<QString> members(group->members.begin(), group->members.end());
     std::vector<ContactRecord> found;
-    for (const ContactRecord& contact : book.contacts) {
+    for (const ContactRecord& contact : book.contacts)
         if (members.contains(contact.identifier))
             found.push_back(contact);
-    }
     return found;
 }
 

@@ -135,10 +135,9 @@ std::expected<std::optional<qint64>, FileError> HistoryWriter::run(
     Command command, std::initializer_list<Value> values) {
     sqlite3_stmt* statement = statements_.at(command).get();
     int position = 0;
-    for (const Value& value : values) {
+    for (const Value& value : values)
         if (bindValue(statement, ++position, value) != SQLITE_OK)
             return writeFailure(db_.get());
-    }
     const int step = sqlite3_step(statement);
     std::optional<qint64> row;
     if (step == SQLITE_ROW)

@@ -11,13 +11,11 @@ namespace {
 
 QByteArray drawing(const QString& name, SymbolWeight weight) {
     QFile file(QStringLiteral(":/velmora/symbols/%1.svg").arg(name));
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!file.open(QIODevice::ReadOnly))
         return {};
-    }
     QByteArray svg = file.readAll();
-    if (weight == SymbolWeight::light) {
+    if (weight == SymbolWeight::light)
         svg.replace(R"(stroke-width="1.6")", R"(stroke-width="1")");
-    }
     return svg;
 }
 
@@ -35,9 +33,8 @@ QImage drawn(QSvgRenderer& renderer, QSize pixels, const QRectF& place) {
 
 QImage DrawnLook::symbol(const QString& name, QSize pixels, const QColor& tint,
                          SymbolWeight weight) const {
-    if (pixels.isEmpty()) {
+    if (pixels.isEmpty())
         return {};
-    }
     QSvgRenderer renderer(drawing(name, weight));
     if (!renderer.isValid()) {
         qWarning("There is no symbol named \"%s\".", qUtf8Printable(name));
@@ -51,9 +48,8 @@ QImage DrawnLook::symbol(const QString& name, QSize pixels, const QColor& tint,
 }
 
 QImage DrawnLook::picture(SystemPicture which, QSize pixels) const {
-    if (pixels.isEmpty()) {
+    if (pixels.isEmpty())
         return {};
-    }
     if (which == SystemPicture::applicationIcon) {
         QSvgRenderer icon(QStringLiteral(":/velmora/icon/velmora.svg"));
         return drawn(icon, pixels, QRectF(QPointF(), pixels));

@@ -12,21 +12,18 @@ namespace {
 constexpr int defaultSide = 16;
 
 std::optional<SymbolWeight> weightFrom(const QString& text) {
-    if (text == QLatin1String("regular")) {
+    if (text == QLatin1String("regular"))
         return SymbolWeight::regular;
-    }
-    if (text == QLatin1String("light")) {
+    if (text == QLatin1String("light"))
         return SymbolWeight::light;
-    }
     return std::nullopt;
 }
 
 std::optional<QColor> tintFrom(const QString& text) {
     bool valid = false;
     const uint rgba = text.toUInt(&valid, 16);
-    if (!valid || text.size() != 8) {
+    if (!valid || text.size() != 8)
         return std::nullopt;
-    }
     return QColor::fromRgba((rgba >> 8) | (rgba << 24));
 }
 
@@ -45,28 +42,23 @@ SymbolImageProvider::SymbolImageProvider(std::unique_ptr<NativeLook> look)
 QImage SymbolImageProvider::requestImage(const QString& id, QSize* size,
                                          const QSize& requestedSize) {
     QImage made = image(id, completed(requestedSize));
-    if (size != nullptr) {
+    if (size != nullptr)
         *size = made.size();
-    }
     return made;
 }
 
 QImage SymbolImageProvider::image(const QString& id, QSize pixels) const {
-    if (id == QLatin1String("applicationIcon")) {
+    if (id == QLatin1String("applicationIcon"))
         return look_->picture(SystemPicture::applicationIcon, pixels);
-    }
-    if (id == QLatin1String("arrowPointer")) {
+    if (id == QLatin1String("arrowPointer"))
         return look_->picture(SystemPicture::arrowPointer, pixels);
-    }
     const QStringList fields = id.split(u'/');
-    if (fields.size() != 3) {
+    if (fields.size() != 3)
         return {};
-    }
     const auto weight = weightFrom(fields[1]);
     const auto tint = tintFrom(fields[2]);
-    if (!weight || !tint) {
+    if (!weight || !tint)
         return {};
-    }
     return look_->symbol(fields[0], pixels, *tint, *weight);
 }
 

@@ -19,9 +19,8 @@ enum class Owner { application, window };
 QVariant menu(const QString& title, const std::vector<MenuEntry>& entries,
               Owner owner = Owner::window) {
     Menu made{.title = title, .application = owner == Owner::application, .entries = {}};
-    for (const MenuEntry& entry : entries) {
+    for (const MenuEntry& entry : entries)
         made.entries.append(QVariant::fromValue(entry));
-    }
     return QVariant::fromValue(made);
 }
 
@@ -55,18 +54,16 @@ QVariant peopleMenu() {
 
 void runOnWindow(Command command) {
     QWindow* window = QGuiApplication::focusWindow();
-    if (window == nullptr) {
+    if (window == nullptr)
         return;
-    }
-    if (command == Command::close) {
+    if (command == Command::close)
         window->close();
-    } else if (command == Command::minimize) {
+    else if (command == Command::minimize)
         window->showMinimized();
-    } else if (window->visibility() == QWindow::Maximized) {
+    else if (window->visibility() == QWindow::Maximized)
         window->showNormal();
-    } else {
+    else
         window->showMaximized();
-    }
 }
 
 }  // namespace

@@ -29,9 +29,8 @@ int SidebarModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant SidebarModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    }
     const GroupInfo& list = rows_[static_cast<size_t>(index.row())];
     switch (role) {
         case nameRole:
@@ -64,9 +63,8 @@ bool SidebarModel::enabled() const {
 void SidebarModel::choose(int row) {
     const bool exists = row >= 0 && row < rowCount();
     const QString id = exists ? rows_[static_cast<size_t>(row)].id : QString();
-    if (id != model_.config().selectedGroupID.value_or(QString())) {
+    if (id != model_.config().selectedGroupID.value_or(QString()))
         model_.selectGroup(id);
-    }
 }
 
 void SidebarModel::follow() {

@@ -33,12 +33,10 @@ void useFont(const QString& family) {
 
 MainWindow::MainWindow(AppModel& model, std::unique_ptr<NativeLook> look, Motion motion)
     : presentation_(model) {
-    if (!look) {
+    if (!look)
         look = std::make_unique<DrawnLook>();
-    }
-    if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME")) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME"))
         qputenv("QT_QPA_UPDATE_IDLE_TIME", updatePause);
-    }
     qml_register_types_Velmora();
     useFont(look->fontFamily());
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
@@ -54,12 +52,10 @@ MainWindow::MainWindow(AppModel& model, std::unique_ptr<NativeLook> look, Motion
          {QStringLiteral("nativeMenus"), look->nativeMenuBar()}});
     engine_.addImageProvider(QStringLiteral("symbol"), new SymbolImageProvider(std::move(look)));
     engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Velmora/MainWindowRoot.qml")));
-    if (!engine_.rootObjects().isEmpty()) {
+    if (!engine_.rootObjects().isEmpty())
         window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
-    }
-    if (window_ == nullptr) {
+    if (window_ == nullptr)
         qFatal("The main window cannot be loaded.");
-    }
     // The start-up reads for a while: the window is on the screen first.
     QObject::connect(
         window_, &QQuickWindow::frameSwapped, &presentation_,

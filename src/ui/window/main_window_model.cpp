@@ -56,15 +56,13 @@ QString MainWindowModel::title() const {
 }
 
 QString MainWindowModel::subtitle() const {
-    if (!model_.config().selectedGroupID || model_.recipients().empty()) {
+    if (!model_.config().selectedGroupID || model_.recipients().empty())
         return {};
-    }
     QString text = QStringLiteral("%1 of %2 selected")
                        .arg(model_.selection().size())
                        .arg(model_.recipients().size());
-    if (const qsizetype attention = model_.attentionCount(); attention >= 1) {
+    if (const qsizetype attention = model_.attentionCount(); attention >= 1)
         text += QStringLiteral(" \u00B7 %1 need attention").arg(attention);
-    }
     return text;
 }
 
@@ -93,12 +91,10 @@ void MainWindowModel::openContactsSettings() {
 }
 
 MainWindowModel::Banner MainWindowModel::banner() const {
-    if (!model_.contactsAllowed) {
+    if (!model_.contactsAllowed)
         return Banner::none;
-    }
-    if (!model_.dbOK) {
+    if (!model_.dbOK)
         return Banner::fullDiskAccess;
-    }
     return model_.config().senderNumber.isEmpty() ? Banner::sendingNumber : Banner::none;
 }
 
@@ -124,11 +120,10 @@ QString MainWindowModel::bannerButton() const {
 }
 
 void MainWindowModel::followBanner() {
-    if (banner() == Banner::fullDiskAccess) {
+    if (banner() == Banner::fullDiskAccess)
         model_.showingFDAHelp = true;
-    } else if (banner() == Banner::sendingNumber) {
+    else if (banner() == Banner::sendingNumber)
         model_.openSettings();
-    }
 }
 
 bool MainWindowModel::alertShown() const {
@@ -149,15 +144,12 @@ void MainWindowModel::dismissAlert() {
 }
 
 MainWindowModel::Sheet MainWindowModel::sheet() const {
-    if (!model_.termsAccepted()) {
+    if (!model_.termsAccepted())
         return Sheet::terms;
-    }
-    if (model_.confirmingRun) {
+    if (model_.confirmingRun)
         return Sheet::confirm;
-    }
-    if (model_.needsFDAHelp()) {
+    if (model_.needsFDAHelp())
         return Sheet::fullDiskAccessHelp;
-    }
     return model_.needsSenderSetup() ? Sheet::senderSetup : Sheet::none;
 }
 
@@ -170,9 +162,8 @@ bool MainWindowModel::settingsEnabled() const {
 }
 
 bool MainWindowModel::mayClose() {
-    if (!model_.runner().isActive()) {
+    if (!model_.runner().isActive())
         return true;
-    }
     model_.alert =
         QStringLiteral("A run is still going. Stop it and let it end, then close Velmora.");
     return false;
@@ -183,15 +174,13 @@ bool MainWindowModel::paused() const {
 }
 
 void MainWindowModel::windowShown() {
-    if (!startUp_) {
+    if (!startUp_)
         startUp_ = model_.bootstrap();
-    }
 }
 
 void MainWindowModel::applicationActivated() {
-    if (!model_.dbOK) {
+    if (!model_.dbOK)
         model_.refreshNumbers();
-    }
 }
 
 }  // namespace velmora

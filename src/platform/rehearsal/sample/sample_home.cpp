@@ -119,10 +119,9 @@ std::expected<void, FileError> fillHistory(const QString& path, Moment now) {
     auto transaction = history->begin();
     if (!transaction)
         return std::unexpected(transaction.error());
-    for (const Conversation& each : conversations) {
+    for (const Conversation& each : conversations)
         if (auto added = addConversation(*history, each, now); !added)
             return added;
-    }
     if (auto added = addGroupConversation(*history, now); !added)
         return added;
     return transaction->commit();
