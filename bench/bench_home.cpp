@@ -13,9 +13,9 @@
 #include "platform/rehearsal/rehearsal_platform.h"
 #include "storage/files.h"
 
-namespace velmora {
-
 using namespace Qt::StringLiterals;
+
+namespace velmora {
 
 namespace {
 

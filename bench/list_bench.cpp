@@ -8,6 +8,8 @@
 
 #include "bench_home.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -68,9 +70,8 @@ void visibleRecipients(benchmark::State& state, const QString& typed) {
     state.counters["shown"] = static_cast<double>(shown);
 }
 BENCHMARK_CAPTURE(visibleRecipients, all, QString())->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(visibleRecipients, name, QStringLiteral("given12"))
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(visibleRecipients, digits, QStringLiteral("0042"))->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(visibleRecipients, name, u"given12"_s)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(visibleRecipients, digits, u"0042"_s)->Unit(benchmark::kMillisecond);
 
 // Writing the message: everyone's text, and the settings file with it.
 void refreshTexts(benchmark::State& state) {
@@ -78,8 +79,7 @@ void refreshTexts(benchmark::State& state) {
     int edit = 0;
     for (auto _ : state)
         model->setCurrentTemplate(
-            QStringLiteral("Hey {first_name}, %1?{custom_note}\n---\n{first_name}! %1")
-                .arg(++edit));
+            u"Hey {first_name}, %1?{custom_note}\n---\n{first_name}! %1"_s.arg(++edit));
 }
 BENCHMARK(refreshTexts)->Unit(benchmark::kMillisecond);
 
@@ -89,7 +89,7 @@ void tickOneBox(benchmark::State& state) {
     model->selectShown();
     bool on = false;
     for (auto _ : state) {
-        model->setSelected(QStringLiteral("person-42"), on);
+        model->setSelected(u"person-42"_s, on);
         on = !on;
     }
 }

@@ -9,27 +9,28 @@
 #include "platform/rehearsal/rehearsal_platform.h"
 #include "storage/send_log.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
 
-const QString batch = QStringLiteral("Friends 2025-03-14");
+const QString batch = u"Friends 2025-03-14"_s;
 
 class LogBench : public benchmark::Fixture {
   public:
     LogBench() {
         std::vector<LogEntry> entries;
         for (int n = 0; n < 100'000; ++n)
-            entries.push_back(
-                {.id = {},
-                 .time = clock_.now() + n,
-                 .batch = batch,
-                 .name = QStringLiteral("Given%1 Family%2").arg(n).arg(n % 997),
-                 .phone = benchPhone(n),
-                 .service = QStringLiteral("iMessage"),
-                 .line = QStringLiteral("+12125550001"),
-                 .status = QStringLiteral("sent"),
-                 .detail = n % 20 == 0 ? QStringLiteral("Said \"no\", then left.") : QString()});
+            entries.push_back({.id = {},
+                               .time = clock_.now() + n,
+                               .batch = batch,
+                               .name = u"Given%1 Family%2"_s.arg(n).arg(n % 997),
+                               .phone = benchPhone(n),
+                               .service = u"iMessage"_s,
+                               .line = u"+12125550001"_s,
+                               .status = u"sent"_s,
+                               .detail = n % 20 == 0 ? u"Said \"no\", then left."_s : QString()});
         log.rewrite(batch, entries);
         bytes = QFileInfo(log.logFile(batch)).size();
     }

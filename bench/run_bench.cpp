@@ -12,12 +12,14 @@
 #include "platform/rehearsal/rehearsal_platform.h"
 #include "storage/files.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
 
 constexpr int people = 60;
-const QString line = QStringLiteral("+12125550001");
+const QString line = u"+12125550001"_s;
 
 const std::array<const char*, 7> faults = {
     R"({ "iMessage": { "error": 22 } })",
@@ -42,10 +44,9 @@ QByteArray messagesSettings(int oneFaultyIn) {
 class RunHome {
   public:
     explicit RunHome(int oneFaultyIn) {
-        const QString messages = folder_.path() + QStringLiteral("/Library/Messages");
+        const QString messages = folder_.path() + u"/Library/Messages"_s;
         if (!createPrivateFolder(messages) ||
-            !replaceFile(messages + QStringLiteral("/messages.json"),
-                         messagesSettings(oneFaultyIn)) ||
+            !replaceFile(messages + u"/messages.json"_s, messagesSettings(oneFaultyIn)) ||
             !HistoryWriter::open(messagesHistoryPath(folder_.path())))
             qFatal("The benchmark's home folder could not be made.");
     }
@@ -69,11 +70,11 @@ void run(const QString& home, VirtualSurroundings& world, qint64& paused) {
     });
     std::vector<Runner::Item> items;
     for (int n = 0; n < people; ++n)
-        items.push_back({QStringLiteral("Person %1").arg(n), benchPhone(n),
-                         QStringLiteral("Hey Person %1, want in?").arg(n)});
+        items.push_back(
+            {u"Person %1"_s.arg(n), benchPhone(n), u"Hey Person %1, want in?"_s.arg(n)});
     AppConfig config;
     config.senderNumber = line;
-    runner.start(QStringLiteral("Everyone"), items, config);
+    runner.start(u"Everyone"_s, items, config);
     world.clock.runUntilIdle();
     if (runner.done != people)
         qFatal("The run did not handle everyone.");

@@ -21,11 +21,11 @@
 #include "storage/config_store.h"
 #include "ui/window/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
-
-using namespace Qt::Literals::StringLiterals;
 
 constexpr int rounds = 10;
 constexpr int scrollPoints = 40;

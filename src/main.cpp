@@ -6,15 +6,17 @@
 #include "platform/platform.h"
 #include "ui/window/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 using namespace velmora;
 
 /// Makes the world, the model and the window, and lets them live until the user quits.
 int main(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
-    QGuiApplication::setApplicationName(QStringLiteral("Velmora"));
-    QGuiApplication::setOrganizationName(QStringLiteral("Velmora"));
+    QGuiApplication::setApplicationName(u"Velmora"_s);
+    QGuiApplication::setOrganizationName(u"Velmora"_s);
     QGuiApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
-    QGuiApplication::setDesktopFileName(QStringLiteral("velmora"));
+    QGuiApplication::setDesktopFileName(u"velmora"_s);
 
     SystemClock clock;
     SystemRandomSource random;
@@ -22,7 +24,7 @@ int main(int argc, char** argv) {
     Platform platform = makePlatform(clock);
     // A platform with a look of its own takes the icon from the bundle, which this would replace.
     if (!platform.look)
-        QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/velmora/icon/velmora.svg")));
+        QGuiApplication::setWindowIcon(QIcon(u":/velmora/icon/velmora.svg"_s));
     AppModel model({.contacts = *platform.contacts,
                     .scripts = *platform.scripts,
                     .accountPreferences = *platform.accountPreferences,

@@ -8,12 +8,14 @@
 #include <array>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QImage drawn(int pixels) {
     // Small sizes have a drawing of their own, without the lines that would blur.
-    QSvgRenderer renderer(pixels <= 32 ? QStringLiteral(":/velmora/icon/velmora-small.svg")
-                                       : QStringLiteral(":/velmora/icon/velmora.svg"));
+    QSvgRenderer renderer(pixels <= 32 ? u":/velmora/icon/velmora-small.svg"_s
+                                       : u":/velmora/icon/velmora.svg"_s);
     QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
@@ -31,9 +33,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     for (const int points : std::array{16, 32, 128, 256, 512}) {
-        const QString name = arguments[1] + QStringLiteral("/icon_%1x%1").arg(points);
-        if (!drawn(points).save(name + QStringLiteral(".png")) ||
-            !drawn(points * 2).save(name + QStringLiteral("@2x.png"))) {
+        const QString name = arguments[1] + u"/icon_%1x%1"_s.arg(points);
+        if (!drawn(points).save(name + u".png"_s) || !drawn(points * 2).save(name + u"@2x.png"_s)) {
             std::fprintf(stderr, "%s could not be written.\n", qPrintable(name));
             return 1;
         }

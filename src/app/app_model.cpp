@@ -6,6 +6,8 @@
 
 #include "app/recipient_check.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 AppModel::AppModel(Doors doors, Surroundings surroundings, Places places)
@@ -53,7 +55,7 @@ bool AppModel::isAllContacts() const {
 
 std::optional<GroupInfo> AppModel::currentGroup() const {
     if (isAllContacts())
-        return GroupInfo{allContactsID, QStringLiteral("All Contacts"), allContactsCount};
+        return GroupInfo{allContactsID, u"All Contacts"_s, allContactsCount};
     for (const GroupInfo& group : groups.value())
         if (config_.selectedGroupID == group.id)
             return group;
@@ -73,8 +75,7 @@ bool AppModel::needsSenderSetup() const {
 QString AppModel::defaultBatchName() const {
     const std::optional<GroupInfo> group = currentGroup();
     const QDate today = localTime(surroundings_.clock.now()).date();
-    return (group ? group->name : QStringLiteral("run")) + u' ' +
-           QLocale().toString(today, QStringLiteral("yyyy-MM-dd"));
+    return (group ? group->name : u"run"_s) + u' ' + QLocale().toString(today, u"yyyy-MM-dd"_s);
 }
 
 qsizetype AppModel::attentionCount() const {

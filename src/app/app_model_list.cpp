@@ -5,6 +5,8 @@
 #include "app/recipient_check.h"
 #include "core/collation.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 void AppModel::selectGroup(const QString& listID) {
@@ -38,7 +40,7 @@ void AppModel::loadList() {
             runner_.reloadLog();
         }
     } else {
-        alert = QStringLiteral("Couldn't read that list: ") + people.error().description;
+        alert = u"Couldn't read that list: "_s + people.error().description;
     }
     loading = false;
 }

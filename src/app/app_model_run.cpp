@@ -6,46 +6,43 @@
 #include "core/phone.h"
 #include "history/sent_record_wait.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
 
 QString testOutcome(const std::optional<SentRecord>& record, const QString& senderNumber) {
     if (!record)
-        return QStringLiteral("Sent, but Messages hasn't recorded it yet. Check the thread.");
+        return u"Sent, but Messages hasn't recorded it yet. Check the thread."_s;
     if (record->error != 0)
-        return QStringLiteral("Messages reported error %1. That number may not have iMessage.")
-            .arg(record->error);
+        return u"Messages reported error %1. That number may not have iMessage."_s.arg(
+            record->error);
     const bool matches = senderNumber.isEmpty() || record->line == senderNumber;
-    return QStringLiteral("Sent by %1 from %2. %3")
-        .arg(
-            record->service,
-            record->line.isEmpty() ? QStringLiteral("an unknown line") : displayPhone(record->line),
-            matches ? QStringLiteral("That matches your sending number.")
-                    : QStringLiteral("That is NOT your sending number."));
+    return u"Sent by %1 from %2. %3"_s.arg(
+        record->service, record->line.isEmpty() ? u"an unknown line"_s : displayPhone(record->line),
+        matches ? u"That matches your sending number."_s : u"That is NOT your sending number."_s);
 }
 
 }  // namespace
 
 std::optional<QString> AppModel::validationError() const {
     if (!config_.selectedGroupID)
-        return QStringLiteral("Choose a list first.");
+        return u"Choose a list first."_s;
     if (config_.senderNumber.isEmpty())
-        return QStringLiteral("Choose the number you send from.");
+        return u"Choose the number you send from."_s;
     if (!dbOK)
-        return QStringLiteral(
-            "Turn on Full Disk Access for Velmora first, so it can check which line each text "
-            "uses.");
+        return u"Turn on Full Disk Access for Velmora first, so it can check which line each text "
+               "uses."_s;
     if (TemplateRenderer::splitVersions(currentTemplate()).isEmpty())
-        return QStringLiteral("The message is empty.");
+        return u"The message is empty."_s;
     if (selection_.isEmpty())
-        return QStringLiteral("Select at least one person.");
+        return u"Select at least one person."_s;
     if (selection_.size() > config_.maxPerRun)
-        return QStringLiteral(
-                   "You've selected %1 people, and one run sends at most %2. Uncheck "
-                   "some, or send the rest in a second run with the same run name.")
-            .arg(selection_.size())
-            .arg(config_.maxPerRun);
+        return u"You've selected %1 people, and one run sends at most %2. Uncheck "
+               "some, or send the rest in a second run with the same run name."_s
+                   .arg(selection_.size())
+                   .arg(config_.maxPerRun);
     return std::nullopt;
 }
 
@@ -75,10 +72,9 @@ void AppModel::confirmRun() {
         loadList();
     if (selection_ == before)
         return startRun();
-    alert = QStringLiteral(
-                "Some people were already sent in the run \"%1\", so they were "
-                "unchecked. Check the list, then send again.")
-                .arg(batchName.value());
+    alert =
+        u"Some people were already sent in the run \"%1\", so they were "
+        "unchecked. Check the list, then send again."_s.arg(batchName.value());
 }
 
 void AppModel::startRun() {
@@ -110,17 +106,17 @@ QCoro::Task<> AppModel::sendTest() {
     const QPointer<AppModel> self(this);
     const std::optional<QString> phone = normalizePhone(testPhone);
     if (!phone) {
-        testResult = QStringLiteral("Enter a valid phone number.");
+        testResult = u"Enter a valid phone number."_s;
         co_return;
     }
     testing = true;
-    testResult = QStringLiteral("Sending and checking which line it used...");
+    testResult = u"Sending and checking which line it used..."_s;
     const qint64 since = historyTimestamp(surroundings_.clock.now());
-    const auto sent = sender_.send(*phone, Service::iMessage, QStringLiteral("Test from Velmora."));
+    const auto sent = sender_.send(*phone, Service::iMessage, u"Test from Velmora."_s);
     if (!sent) {
         testResult = sent.error().description;
     } else if (!dbOK) {
-        testResult = QStringLiteral("Sent. Turn on Full Disk Access to see which line it used.");
+        testResult = u"Sent. Turn on Full Disk Access to see which line it used."_s;
     } else {
         const std::optional<SentRecord> record = co_await waitForSentRecord(
             surroundings_, historyPath_, *phone, since, config_.verifyWait);

@@ -4,6 +4,8 @@
 
 #include "app/app_model.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -82,7 +84,7 @@ void AppModel::loadGroups() {
     if (read)
         groups = *read;
     else
-        alert = QStringLiteral("Couldn't read your Contacts groups: ") + read.error().description;
+        alert = u"Couldn't read your Contacts groups: "_s + read.error().description;
 }
 
 QDateTime AppModel::timeOfDay(QuietField field) const {
@@ -97,9 +99,8 @@ QDateTime AppModel::timeOfDay(QuietField field) const {
 }
 
 void AppModel::setTimeOfDay(int hour, int minute, QuietField field) {
-    const QString text = QStringLiteral("%1:%2")
-                             .arg(hour, 2, 10, QLatin1Char('0'))
-                             .arg(minute, 2, 10, QLatin1Char('0'));
+    const QString text =
+        u"%1:%2"_s.arg(hour, 2, 10, QLatin1Char('0')).arg(minute, 2, 10, QLatin1Char('0'));
     editConfig([&](AppConfig& config) { config.*settingOf(field) = text; });
 }
 

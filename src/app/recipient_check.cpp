@@ -3,19 +3,21 @@
 #include "core/phone.h"
 #include "core/white_space.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
 
 const QString newThreadNote =
-    QStringLiteral("New thread. Your iPhone uses their preferred line, or your default line.");
+    u"New thread. Your iPhone uses their preferred line, or your default line."_s;
 
 QString displayName(const ContactRecord& person, const QString& firstName) {
     if (!person.givenName.isEmpty() && !person.familyName.isEmpty())
         return person.givenName + u' ' + person.familyName;
     if (!person.givenName.isEmpty() || !person.familyName.isEmpty())
         return person.givenName + person.familyName;
-    return firstName.isEmpty() ? QStringLiteral("(no name)") : firstName;
+    return firstName.isEmpty() ? u"(no name)"_s : firstName;
 }
 
 Recipient recipientOf(const ContactRecord& person, const std::optional<BestPhone>& number) {
@@ -46,11 +48,11 @@ Recipient RecipientCheck::next(const ContactRecord& person) {
 
 void RecipientCheck::check(Recipient& recipient, const ContactRecord& person) {
     if (recipient.phone.isEmpty())
-        return block(recipient, QStringLiteral("No usable phone number."));
+        return block(recipient, u"No usable phone number."_s);
     if (recipient.firstName.isEmpty())
-        return block(recipient, QStringLiteral("No first name on the contact."));
+        return block(recipient, u"No first name on the contact."_s);
     if (taken_.contains(recipient.phone))
-        return block(recipient, QStringLiteral("Same number as another contact in this list."));
+        return block(recipient, u"Same number as another contact in this list."_s);
     taken_.insert(recipient.phone);
     recipient.alreadySent = sources_.alreadySent.contains(recipient.phone);
     if (sources_.history)
@@ -64,8 +66,8 @@ void RecipientCheck::checkThread(Recipient& recipient, const ContactRecord& pers
         recipient.issue = newThreadNote;
     else if (isOnOtherLine(*recipient.thread, sources_.senderNumber))
         recipient.issue =
-            QStringLiteral("Your thread with them is on %1. Text them once by hand from %2 first.")
-                .arg(displayPhone(recipient.thread->line), displayPhone(sources_.senderNumber));
+            u"Your thread with them is on %1. Text them once by hand from %2 first."_s.arg(
+                displayPhone(recipient.thread->line), displayPhone(sources_.senderNumber));
 }
 
 bool needsAttention(const std::optional<QString>& issue) {

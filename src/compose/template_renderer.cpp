@@ -4,15 +4,17 @@
 
 #include "core/white_space.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora::TemplateRenderer {
 
 const QString& defaultTemplate() {
-    static const QString text = QStringLiteral(
-        "Hey {first_name}, it's Robin. Something special is coming up and I'm only telling a few "
+    static const QString text =
+        u"Hey {first_name}, it's Robin. Something special is coming up and I'm only telling a few "
         "people. Want in?{custom_note}\n"
         "---\n"
         "{first_name}! Robin here. I've got a private thing coming up and you were one of the "
-        "first people I thought of. Interested?{custom_note}");
+        "first people I thought of. Interested?{custom_note}"_s;
     return text;
 }
 

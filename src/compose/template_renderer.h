@@ -5,11 +5,13 @@
 
 namespace velmora {
 
+using namespace Qt::StringLiterals;
+
 /// Turns a message template into one person's text. Pure functions, no state.
 namespace TemplateRenderer {
 
-inline const QString firstNamePlaceholder = QStringLiteral("{first_name}");
-inline const QString customNotePlaceholder = QStringLiteral("{custom_note}");
+inline const QString firstNamePlaceholder = u"{first_name}"_s;
+inline const QString customNotePlaceholder = u"{custom_note}"_s;
 
 /// The template of a list that has none of its own.
 [[nodiscard]] const QString& defaultTemplate();

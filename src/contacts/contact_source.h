@@ -11,6 +11,8 @@
 
 namespace velmora {
 
+using namespace Qt::StringLiterals;
+
 /// One number on a contact's card.
 struct PhoneEntry {
     std::optional<QString> label;  ///< the raw label as stored: a PhoneLabel or a custom text
@@ -36,9 +38,9 @@ struct GroupRecord {
 
 /// The platform's raw phone labels that outrank others, as this program spells them.
 namespace PhoneLabel {
-inline const QString mobile = QStringLiteral("_$!<Mobile>!$_");
-inline const QString iPhone = QStringLiteral("iPhone");
-inline const QString main = QStringLiteral("_$!<Main>!$_");
+inline const QString mobile = u"_$!<Mobile>!$_"_s;
+inline const QString iPhone = u"iPhone"_s;
+inline const QString main = u"_$!<Main>!$_"_s;
 }  // namespace PhoneLabel
 
 /// Why the address book could not be read: the platform's own sentence.

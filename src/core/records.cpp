@@ -1,9 +1,11 @@
 #include "core/records.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 QString serviceName(Service service) {
-    return service == Service::sms ? QStringLiteral("SMS") : QStringLiteral("iMessage");
+    return service == Service::sms ? u"SMS"_s : u"iMessage"_s;
 }
 
 std::optional<Service> serviceNamed(QStringView name) {

@@ -9,9 +9,11 @@
 
 namespace velmora {
 
+using namespace Qt::StringLiterals;
+
 /// The list id that stands for the whole address book wherever a list id is taken. Never the
 /// identifier of a real group.
-inline const QString allContactsID = QStringLiteral("__all_contacts__");
+inline const QString allContactsID = u"__all_contacts__"_s;
 
 /// The line of an existing conversation with one person.
 struct ThreadInfo {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -34,10 +36,10 @@ QStringList phoneAliases(const AccountPreferences& preferences) {
     if (stored.typeId() != QMetaType::QVariantMap)
         return {};
     const QVariantMap dictionary = stored.toMap();
-    const auto all = textList(dictionary.value(QStringLiteral("allAliases")));
+    const auto all = textList(dictionary.value(u"allAliases"_s));
     if (!all)
         return {};
-    const auto selected = textList(dictionary.value(QStringLiteral("selectedAliases")));
+    const auto selected = textList(dictionary.value(u"selectedAliases"_s));
     const QStringList selectedPhones = phonesAmong(selected.value_or(QStringList()));
     return selectedPhones.isEmpty() ? phonesAmong(*all) : selectedPhones;
 }

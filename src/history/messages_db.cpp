@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -61,7 +63,7 @@ qint64 integerOf(const MessagesDB::Value& value) {
 }
 
 QString placeholders(qsizetype count) {
-    return QStringLiteral("?,").repeated(count).chopped(1);
+    return u"?,"_s.repeated(count).chopped(1);
 }
 
 std::vector<MessagesDB::Bind> bindAll(const QStringList& texts) {
@@ -90,7 +92,7 @@ QStringList handleVariants(const QString& phone) {
 }
 
 QString messagesHistoryPath(const QString& home) {
-    return QDir(home).filePath(QStringLiteral("Library/Messages/chat.db"));
+    return QDir(home).filePath(u"Library/Messages/chat.db"_s);
 }
 
 std::expected<MessagesDB, DBError> MessagesDB::open(const QString& path) {
@@ -101,10 +103,10 @@ std::expected<MessagesDB, DBError> MessagesDB::open(const QString& path) {
     if (code != SQLITE_OK) {
         const QString message = connection != nullptr
                                     ? QString::fromUtf8(sqlite3_errmsg(connection))
-                                    : QStringLiteral("unknown error");
+                                    : u"unknown error"_s;
         return std::unexpected(DBError{DBError::Kind::open, message});
     }
-    auto probe = history.query(QStringLiteral("SELECT 1 FROM message LIMIT 1"), {});
+    auto probe = history.query(u"SELECT 1 FROM message LIMIT 1"_s, {});
     if (!probe)
         return std::unexpected(std::move(probe.error()));
     return history;
@@ -134,11 +136,12 @@ std::expected<std::vector<NumberInfo>, DBError> MessagesDB::senderNumbers(Moment
     constexpr qint64 ninetyDays = 7'776'000'000'000'000;
     const qint64 since =
         std::max(historyTimestamp(now), TimestampRange::min() + ninetyDays) - ninetyDays;
-    auto rows = query(QStringLiteral("SELECT destination_caller_id, COUNT(*) FROM message\n"
-                                     "WHERE destination_caller_id LIKE '+%' GROUP BY 1\n"
-                                     "HAVING MAX(CASE WHEN is_from_me = 1 THEN date END) >= ?\n"
-                                     "ORDER BY 2 DESC LIMIT 6"),
-                      {since});
+    auto rows = query(
+        u"SELECT destination_caller_id, COUNT(*) FROM message\n"
+        "WHERE destination_caller_id LIKE '+%' GROUP BY 1\n"
+        "HAVING MAX(CASE WHEN is_from_me = 1 THEN date END) >= ?\n"
+        "ORDER BY 2 DESC LIMIT 6"_s,
+        {since});
     if (!rows)
         return std::unexpected(std::move(rows.error()));
     std::vector<NumberInfo> numbers;
@@ -157,17 +160,16 @@ std::expected<std::optional<ThreadInfo>, DBError> MessagesDB::thread(
     for (const QString& handle : otherHandles)
         handles.append(handle.toLower());
     // Style 45 is a one-to-one conversation.
-    const QString sql = QStringLiteral(
-                            "SELECT m.service, m.destination_caller_id FROM chat_handle_join ch\n"
-                            "JOIN handle h ON h.ROWID = ch.handle_id\n"
-                            "JOIN chat c ON c.ROWID = ch.chat_id AND c.style = 45\n"
-                            "JOIN chat_message_join j ON j.chat_id = c.ROWID\n"
-                            "JOIN message m ON m.ROWID = j.message_id\n"
-                            "WHERE h.id IN (") +
-                        placeholders(handles.size()) +
-                        QStringLiteral(
-                            ") AND m.error = 0\n"
-                            "ORDER BY m.date DESC LIMIT 1");
+    const QString sql =
+        u"SELECT m.service, m.destination_caller_id FROM chat_handle_join ch\n"
+        "JOIN handle h ON h.ROWID = ch.handle_id\n"
+        "JOIN chat c ON c.ROWID = ch.chat_id AND c.style = 45\n"
+        "JOIN chat_message_join j ON j.chat_id = c.ROWID\n"
+        "JOIN message m ON m.ROWID = j.message_id\n"
+        "WHERE h.id IN ("_s +
+        placeholders(handles.size()) +
+        u") AND m.error = 0\n"
+        "ORDER BY m.date DESC LIMIT 1"_s;
     auto rows = query(sql, bindAll(handles));
     if (!rows)
         return std::unexpected(std::move(rows.error()));
@@ -181,15 +183,13 @@ std::expected<std::optional<SentRecord>, DBError> MessagesDB::lastSent(const QSt
                                                                        qint64 since) {
     const QStringList handles = handleVariants(phone);
     const QString sql =
-        QStringLiteral(
-            "SELECT m.service, m.destination_caller_id, m.error, m.is_sent, m.is_delivered "
-            "FROM message m\n"
-            "JOIN handle h ON m.handle_id = h.ROWID\n"
-            "WHERE h.id IN (") +
+        u"SELECT m.service, m.destination_caller_id, m.error, m.is_sent, m.is_delivered "
+        "FROM message m\n"
+        "JOIN handle h ON m.handle_id = h.ROWID\n"
+        "WHERE h.id IN ("_s +
         placeholders(handles.size()) +
-        QStringLiteral(
-            ") AND m.is_from_me = 1 AND m.date >= ?\n"
-            "ORDER BY m.date DESC LIMIT 1");
+        u") AND m.is_from_me = 1 AND m.date >= ?\n"
+        "ORDER BY m.date DESC LIMIT 1"_s;
     std::vector<Bind> binds = bindAll(handles);
     binds.emplace_back(since);
     auto rows = query(sql, binds);

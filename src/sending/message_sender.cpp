@@ -1,8 +1,8 @@
 #include "sending/message_sender.h"
 
-namespace velmora {
-
 using namespace Qt::StringLiterals;
+
+namespace velmora {
 
 namespace {
 

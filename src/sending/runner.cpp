@@ -7,9 +7,9 @@
 #include "sending/pacing.h"
 #include "sending/send_outcome.h"
 
-namespace velmora {
-
 using namespace Qt::StringLiterals;
+
+namespace velmora {
 
 /// The suspension of a paused run, and the answer that ends it.
 class Runner::Pause {

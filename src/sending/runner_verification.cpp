@@ -6,9 +6,9 @@
 #include "sending/runner.h"
 #include "sending/send_outcome.h"
 
-namespace velmora {
-
 using namespace Qt::StringLiterals;
+
+namespace velmora {
 
 void Runner::unwindWithout(const std::weak_ptr<Life>& life) {
     if (life.expired())

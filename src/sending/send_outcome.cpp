@@ -2,9 +2,9 @@
 
 #include <QTextBoundaryFinder>
 
-namespace velmora {
-
 using namespace Qt::StringLiterals;
+
+namespace velmora {
 
 namespace {
 

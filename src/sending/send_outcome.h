@@ -8,13 +8,15 @@
 
 namespace velmora {
 
+using namespace Qt::StringLiterals;
+
 // The words of LogEntry::status.
-inline const QString statusSent = QStringLiteral("sent");
-inline const QString statusUnverified = QStringLiteral("sent_unverified");
-inline const QString statusFailed = QStringLiteral("failed");
+inline const QString statusSent = u"sent"_s;
+inline const QString statusUnverified = u"sent_unverified"_s;
+inline const QString statusFailed = u"failed"_s;
 
 /// The log's word for a text sent again by SMS after iMessage failed.
-inline const QString fallbackLabel = QStringLiteral("SMS (fallback)");
+inline const QString fallbackLabel = u"SMS (fallback)"_s;
 
 /// Writes into `entry` what became of a send that Messages did not take: service, status and the
 /// first 200 user-perceived characters of the error. `label` is the log's word for the service

@@ -10,8 +10,10 @@
 
 namespace velmora {
 
+using namespace Qt::StringLiterals;
+
 /// The version of the terms of use that counts as accepted.
-inline const QString currentTermsVersion = QStringLiteral("1");
+inline const QString currentTermsVersion = u"1"_s;
 
 /// All of the user's settings and working data, stored as one JSON file whose keys are the field
 /// names.
@@ -20,9 +22,9 @@ struct AppConfig {
     double delayMin = 30;   ///< one end of the random wait between two sends, seconds
     double delayMax = 60;   ///< the other end, seconds; the two may stand in either order
     qint64 maxPerRun = 60;  ///< the most people that one run may send to
-    QString quietStart = QStringLiteral("10:00");  ///< start of the daily sending hours
-    QString quietEnd = QStringLiteral("20:00");    ///< end of the daily sending hours, still inside
-    qint64 maxFailures = 3;  ///< failed sends in a row after which a run pauses
+    QString quietStart = u"10:00"_s;  ///< start of the daily sending hours
+    QString quietEnd = u"20:00"_s;    ///< end of the daily sending hours, still inside
+    qint64 maxFailures = 3;           ///< failed sends in a row after which a run pauses
     double verifyWait = 20;  ///< how long to wait for the history to confirm a send, seconds
     std::optional<QString> selectedGroupID;  ///< the list shown in the main window
     QMap<QString, QString> templates;        ///< message template by list id

@@ -14,8 +14,8 @@ namespace velmora {
 
 using namespace Qt::StringLiterals;
 
-inline const QString myLine = QStringLiteral("+12125559999");
-inline const QString myOtherLine = QStringLiteral("+12125558888");
+inline const QString myLine = u"+12125559999"_s;
+inline const QString myOtherLine = u"+12125558888"_s;
 
 /// Velmora in a home of its own: Ann, Bob and Joanne in the group Friends, all on iMessage, and a
 /// history that names one sending number.

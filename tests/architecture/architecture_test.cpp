@@ -7,7 +7,7 @@
 #include <QMap>
 #include <QRegularExpression>
 
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+
 using namespace velmora::TemplateRenderer;
 
 // A wrong idea of what separates would send a person two versions, or a version cut in half, and an

@@ -7,10 +7,10 @@
 
 #include "contacts/contact_access.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 using People = std::expected<std::vector<ContactRecord>, ContactsError>;
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+
 using namespace velmora;
 
 // Cutting any other number into American groups would show a number that does not exist.

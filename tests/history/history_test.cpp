@@ -9,10 +9,11 @@
 #include "support/rehearsal_home.h"
 #include "support/virtual_surroundings.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 namespace {
 
-using namespace Qt::StringLiterals;
 using Range = std::numeric_limits<qint64>;
 
 const QString annsPhone = u"+15551234567"_s;

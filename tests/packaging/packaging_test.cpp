@@ -13,6 +13,7 @@
 #include "support/rehearsal_home.h"
 
 using namespace Qt::StringLiterals;
+
 using velmora::writeTestFile;
 
 namespace {

@@ -6,10 +6,11 @@
 
 #include "platform/rehearsal/script_parser.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 namespace {
 
-using namespace Qt::StringLiterals;
 using Outcome = ScriptResult::Outcome;
 
 struct AnsweringScripts final : ScriptRunner {

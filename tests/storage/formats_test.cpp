@@ -8,6 +8,7 @@
 #include "storage/send_log.h"
 
 using namespace Qt::StringLiterals;
+
 using namespace velmora;
 
 // Texting somebody in the night, or never at all.

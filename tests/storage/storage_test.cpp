@@ -15,6 +15,7 @@
 #include "support/virtual_clock.h"
 
 using namespace Qt::StringLiterals;
+
 using namespace velmora;
 
 namespace {

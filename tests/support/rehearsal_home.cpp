@@ -11,9 +11,9 @@
 #include <QJsonObject>
 #include <stdexcept>
 
-namespace velmora {
-
 using namespace Qt::StringLiterals;
+
+namespace velmora {
 
 namespace {
 

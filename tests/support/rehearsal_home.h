@@ -13,6 +13,8 @@
 
 namespace velmora {
 
+using namespace Qt::StringLiterals;
+
 /// Makes the file hold these bytes, in folders that are made for it; fails the test otherwise.
 void writeTestFile(const QString& path, const QByteArray& bytes);
 
@@ -23,18 +25,16 @@ std::unique_ptr<sqlite3, int (*)(sqlite3*)> changeHistory(const QString& path, c
 class RehearsalHome {
   public:
     [[nodiscard]] QString path() const { return folder_.path(); }
-    [[nodiscard]] QString applicationSupport() const {
-        return folder_.filePath(QStringLiteral(".local/share"));
-    }
+    [[nodiscard]] QString applicationSupport() const { return folder_.filePath(u".local/share"_s); }
     [[nodiscard]] QString historyPath() const {
-        return folder_.filePath(QStringLiteral("Library/Messages/chat.db"));
+        return folder_.filePath(u"Library/Messages/chat.db"_s);
     }
 
     void writeContacts(const QByteArray& json) {
-        writeTestFile(folder_.filePath(QStringLiteral("Library/Contacts/contacts.json")), json);
+        writeTestFile(folder_.filePath(u"Library/Contacts/contacts.json"_s), json);
     }
     void writeMessages(const QByteArray& json) {
-        writeTestFile(folder_.filePath(QStringLiteral("Library/Messages/messages.json")), json);
+        writeTestFile(folder_.filePath(u"Library/Messages/messages.json"_s), json);
     }
 
     /// The history, made at the first call.

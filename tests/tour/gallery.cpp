@@ -6,11 +6,11 @@
 
 #include "tour/stage.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
-
-using namespace Qt::Literals::StringLiterals;
 
 const QString addressBookPath = u"Library/Contacts/contacts.json"_s;
 const QString messagesPath = u"Library/Messages/messages.json"_s;

@@ -13,9 +13,9 @@
 #include "storage/config_store.h"
 #include "storage/files.h"
 
-namespace velmora {
+using namespace Qt::StringLiterals;
 
-using namespace Qt::Literals::StringLiterals;
+namespace velmora {
 
 namespace {
 

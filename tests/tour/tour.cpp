@@ -7,11 +7,11 @@
 
 #include "tour/stage.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
-
-using namespace Qt::Literals::StringLiterals;
 
 const LogEntry* entryOf(const QString& name, Stage& stage) {
     const std::vector<LogEntry>& log = stage.model().runner().log();

@@ -6,6 +6,8 @@
 #include <QTest>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -20,7 +22,7 @@ void hear(QtMsgType type, const QMessageLogContext&, const QString& message) {
         std::fputs(qPrintable(message + QLatin1Char('\n')), stderr);
     // The window system without a screen has no windows to raise or to hint at.
     if (type != QtDebugMsg && type != QtInfoMsg &&
-        !message.startsWith(QLatin1String("This plugin does not support")))
+        !message.startsWith("This plugin does not support"_L1))
         heard().append(message);
 }
 
@@ -53,14 +55,13 @@ QString speech(QAccessibleInterface* element) {
     const QString value =
         number != nullptr ? number->currentValue().toString() : element->text(QAccessible::Value);
     if (!value.isEmpty() && element->role() != QAccessible::Window)
-        words.append(QLatin1String("value ") + value);
+        words.append("value "_L1 + value);
     if (state.checkable)
         words.append(QLatin1String(state.checked ? "checked" : "unchecked"));
     if (state.selected)
-        words.append(QLatin1String("selected"));
+        words.append("selected"_L1);
     const QString description = element->text(QAccessible::Description);
-    return words.join(QLatin1String(", ")) +
-           (description.isEmpty() ? QString() : QLatin1String(" | ") + description);
+    return words.join(", "_L1) + (description.isEmpty() ? QString() : " | "_L1 + description);
 }
 
 void listen(QAccessibleInterface* element, QStringList& spoken) {

@@ -4,6 +4,8 @@
 #include "platform/mac/doors.h"
 #include "platform/mac/native_text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -33,9 +35,9 @@ class MacDesktop final : public Desktop {
     }
 
     void openPrivacyPane(PrivacyPane pane) override {
-        const QString anchor = pane == PrivacyPane::contacts ? QStringLiteral("Privacy_Contacts")
-                                                             : QStringLiteral("Privacy_AllFiles");
-        open(QStringLiteral("x-apple.systempreferences:com.apple.preference.security?") + anchor);
+        const QString anchor =
+            pane == PrivacyPane::contacts ? u"Privacy_Contacts"_s : u"Privacy_AllFiles"_s;
+        open(u"x-apple.systempreferences:com.apple.preference.security?"_s + anchor);
     }
 
     void openMessages() override {

@@ -6,6 +6,8 @@
 #include "platform/mac/mac_look.h"
 #include "platform/mac/native_text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -92,7 +94,7 @@ class MacLook final : public NativeLook {
     }
 
     bool nativeMenuBar() const override { return true; }
-    QString fontFamily() const override { return QStringLiteral(".AppleSystemUIFont"); }
+    QString fontFamily() const override { return u".AppleSystemUIFont"_s; }
     bool reducesMotion() const override {
         return NSWorkspace.sharedWorkspace.accessibilityDisplayShouldReduceMotion;
     }

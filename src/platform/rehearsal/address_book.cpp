@@ -6,36 +6,38 @@
 #include <ranges>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
 
 // A value that is no text denies nothing: it is an error of the file.
 bool isDenied(JsonFile& file) {
-    const auto access = file.optionalText(file.root(), QStringLiteral("access"));
-    return access && *access != QStringLiteral("granted") && !file.error();
+    const auto access = file.optionalText(file.root(), u"access"_s);
+    return access && *access != u"granted"_s && !file.error();
 }
 
 ContactRecord contactOf(JsonFile& file, const QJsonObject& object) {
     ContactRecord contact{
-        .identifier = file.text(object, QStringLiteral("identifier")),
-        .givenName = file.text(object, QStringLiteral("givenName")),
-        .familyName = file.text(object, QStringLiteral("familyName")),
-        .nickname = file.text(object, QStringLiteral("nickname")),
-        .organizationName = file.text(object, QStringLiteral("organizationName")),
+        .identifier = file.text(object, u"identifier"_s),
+        .givenName = file.text(object, u"givenName"_s),
+        .familyName = file.text(object, u"familyName"_s),
+        .nickname = file.text(object, u"nickname"_s),
+        .organizationName = file.text(object, u"organizationName"_s),
         .phoneNumbers = {},
-        .emailAddresses = file.texts(object, QStringLiteral("emailAddresses")),
+        .emailAddresses = file.texts(object, u"emailAddresses"_s),
     };
-    for (const QJsonObject& entry : file.objects(object, QStringLiteral("phoneNumbers")))
-        contact.phoneNumbers.push_back({.label = file.optionalText(entry, QStringLiteral("label")),
-                                        .value = file.text(entry, QStringLiteral("value"))});
+    for (const QJsonObject& entry : file.objects(object, u"phoneNumbers"_s))
+        contact.phoneNumbers.push_back(
+            {.label = file.optionalText(entry, u"label"_s), .value = file.text(entry, u"value"_s)});
     return contact;
 }
 
 }  // namespace
 
 AddressBook::AddressBook(const QString& home)
-    : path_(home + QStringLiteral("/Library/Contacts/contacts.json")) {}
+    : path_(home + u"/Library/Contacts/contacts.json"_s) {}
 
 ContactAccess AddressBook::access() const {
     auto file = JsonFile::read(path_);
@@ -51,24 +53,22 @@ std::expected<AddressBook::Book, ContactsError> AddressBook::parse() const {
     if (!file)
         return std::unexpected(ContactsError{file.error().description});
     if (isDenied(*file))
-        return std::unexpected(
-            ContactsError{QStringLiteral("Access to the address book was denied.")});
+        return std::unexpected(ContactsError{u"Access to the address book was denied."_s});
     Book book;
-    for (const QJsonObject& object : file->objects(file->root(), QStringLiteral("contacts")))
+    for (const QJsonObject& object : file->objects(file->root(), u"contacts"_s))
         book.contacts.push_back(contactOf(*file, object));
-    for (const QJsonObject& object : file->objects(file->root(), QStringLiteral("groups")))
-        book.groups.push_back(
-            {.record = {.identifier = file->text(object, QStringLiteral("identifier")),
-                        .name = file->text(object, QStringLiteral("name"))},
-             .members = file->texts(object, QStringLiteral("members"))});
+    for (const QJsonObject& object : file->objects(file->root(), u"groups"_s))
+        book.groups.push_back({.record = {.identifier = file->text(object, u"identifier"_s),
+                                          .name = file->text(object, u"name"_s)},
+                               .members = file->texts(object, u"members"_s)});
     if (file->error())
         return std::unexpected(ContactsError{file->error()->description});
     QSet<QString> identifiers;
     for (const ContactRecord& contact : book.contacts) {
         if (identifiers.contains(contact.identifier))
             return std::unexpected(
-                ContactsError{QStringLiteral("Two people in %1 have the same identifier, \"%2\".")
-                                  .arg(path_, contact.identifier)});
+                ContactsError{u"Two people in %1 have the same identifier, \"%2\"."_s.arg(
+                    path_, contact.identifier)});
         identifiers.insert(contact.identifier);
     }
     return book;
@@ -118,8 +118,7 @@ std::expected<std::vector<ContactRecord>, ContactsError> AddressBook::membersOfG
     const auto group = std::ranges::find(book.groups, identifier,
                                          [](const Group& each) { return each.record.identifier; });
     if (group == book.groups.end())
-        return std::unexpected(
-            ContactsError{QStringLiteral("The group is no longer in the address book.")});
+        return std::unexpected(ContactsError{u"The group is no longer in the address book."_s});
     const QSet<QString> members(group->members.begin(), group->members.end());
     std::vector<ContactRecord> found;
     for (const ContactRecord& contact : book.contacts)
@@ -140,12 +139,9 @@ std::expected<std::vector<GroupRecord>, ContactsError> AddressBook::allGroups() 
 
 QString AddressBook::localizedLabel(const QString& label) const {
     static const QHash<QString, QString> words{
-        {PhoneLabel::mobile, QStringLiteral("mobile")},
-        {PhoneLabel::iPhone, QStringLiteral("iPhone")},
-        {PhoneLabel::main, QStringLiteral("main")},
-        {QStringLiteral("_$!<Home>!$_"), QStringLiteral("home")},
-        {QStringLiteral("_$!<Work>!$_"), QStringLiteral("work")},
-        {QStringLiteral("_$!<Other>!$_"), QStringLiteral("other")},
+        {PhoneLabel::mobile, u"mobile"_s}, {PhoneLabel::iPhone, u"iPhone"_s},
+        {PhoneLabel::main, u"main"_s},     {u"_$!<Home>!$_"_s, u"home"_s},
+        {u"_$!<Work>!$_"_s, u"work"_s},    {u"_$!<Other>!$_"_s, u"other"_s},
     };
     return words.value(label, label);
 }

@@ -6,6 +6,8 @@
 #include <QUuid>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -43,12 +45,12 @@ constexpr std::array commands{
 };
 
 std::unexpected<FileError> failure(const QString& what, sqlite3* db) {
-    return std::unexpected(FileError{QStringLiteral("Couldn't %1 the Messages history: %2.")
-                                         .arg(what, QString::fromUtf8(sqlite3_errmsg(db)))});
+    return std::unexpected(FileError{u"Couldn't %1 the Messages history: %2."_s.arg(
+        what, QString::fromUtf8(sqlite3_errmsg(db)))});
 }
 
 std::unexpected<FileError> writeFailure(sqlite3* db) {
-    return failure(QStringLiteral("write"), db);
+    return failure(u"write"_s, db);
 }
 
 int bindValue(sqlite3_stmt* statement, int position, const auto& value) {
@@ -105,14 +107,14 @@ std::expected<HistoryWriter, FileError> HistoryWriter::open(const QString& path)
                                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
     HistoryWriter writer{std::unique_ptr<sqlite3, Closer>(connection)};
     if (opened != SQLITE_OK)
-        return failure(QStringLiteral("open"), connection);
+        return failure(u"open"_s, connection);
     // The interface waits meanwhile.
     sqlite3_busy_timeout(connection, 250);
     // The cache holds the indexes of a large history, else bulk use crawls from page to page.
     for (const char* sql : {"PRAGMA journal_mode = WAL", "PRAGMA synchronous = NORMAL",
                             "PRAGMA cache_size = -65536", schema}) {
         if (sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
-            return failure(QStringLiteral("open"), connection);
+            return failure(u"open"_s, connection);
     }
     if (auto prepared = writer.prepare(); !prepared)
         return std::unexpected(prepared.error());
@@ -125,7 +127,7 @@ std::expected<void, FileError> HistoryWriter::prepare() {
         sqlite3_stmt* statement = nullptr;
         if (sqlite3_prepare_v3(db_.get(), commands.at(index), -1, SQLITE_PREPARE_PERSISTENT,
                                &statement, nullptr) != SQLITE_OK)
-            return failure(QStringLiteral("open"), db_.get());
+            return failure(u"open"_s, db_.get());
         statements_.at(index).reset(statement);
     }
     return {};
@@ -226,8 +228,8 @@ std::expected<qint64, FileError> HistoryWriter::addChat(ChatStyle style, const Q
                                                         const QString& service) {
     return atOnce([&]() -> std::expected<qint64, FileError> {
         const QString guid = style == ChatStyle::group || handles.isEmpty()
-                                 ? service + QStringLiteral(";+;chat") + freshGuid()
-                                 : service + QStringLiteral(";-;") + handles.front();
+                                 ? service + u";+;chat"_s + freshGuid()
+                                 : service + u";-;"_s + handles.front();
         const auto chat = insert(insertChat, {guid, std::to_underlying(style)});
         if (!chat)
             return chat;

@@ -16,10 +16,12 @@ struct sqlite3_stmt;
 
 namespace velmora {
 
+using namespace Qt::StringLiterals;
+
 /// A message as Messages keeps it.
 struct HistoryMessage {
     QString handle;  ///< the other party's phone number or address
-    QString service = QStringLiteral("iMessage");
+    QString service = u"iMessage"_s;
     /// The user's own number or address; NULL when absent.
     std::optional<QString> line = std::nullopt;
     qint64 date = 0;  ///< nanoseconds since 2001-01-01 00:00:00 UTC
@@ -27,7 +29,7 @@ struct HistoryMessage {
     qint64 error = 0;  ///< 0 is none
     bool sent = false;
     bool delivered = false;
-    QString text = QStringLiteral("");
+    QString text = u""_s;
 };
 
 /// The styles of a conversation, with the numbers that the history stores.

@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <system_error>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 std::expected<JsonFile, FileError> JsonFile::read(const QString& path) {
@@ -19,19 +21,17 @@ std::expected<JsonFile, FileError> JsonFile::read(const QString& path) {
     const QJsonDocument document = QJsonDocument::fromJson(*bytes, &problem);
     const QString name = QFileInfo(path).fileName();
     if (problem.error != QJsonParseError::NoError)
-        return std::unexpected(
-            FileError{QStringLiteral("The file %1 is no JSON: %2 at byte %3.")
-                          .arg(name, problem.errorString(), QString::number(problem.offset))});
+        return std::unexpected(FileError{u"The file %1 is no JSON: %2 at byte %3."_s.arg(
+            name, problem.errorString(), QString::number(problem.offset))});
     if (!document.isObject())
-        return std::unexpected(
-            FileError{QStringLiteral("The file %1 is no JSON object.").arg(name)});
+        return std::unexpected(FileError{u"The file %1 is no JSON object."_s.arg(name)});
     return JsonFile(path, document.object());
 }
 
 void JsonFile::refuse(const QString& key, const QString& wanted) {
     if (!error_)
-        error_ = FileError{QStringLiteral("In the file %1, \"%2\" is not %3.")
-                               .arg(QFileInfo(path_).fileName(), key, wanted)};
+        error_ = FileError{
+            u"In the file %1, \"%2\" is not %3."_s.arg(QFileInfo(path_).fileName(), key, wanted)};
 }
 
 std::optional<QString> JsonFile::optionalText(const QJsonObject& object, const QString& key) {
@@ -39,7 +39,7 @@ std::optional<QString> JsonFile::optionalText(const QJsonObject& object, const Q
     if (value.isUndefined() || value.isNull())
         return {};
     if (!value.isString())
-        refuse(key, QStringLiteral("a text"));
+        refuse(key, u"a text"_s);
     return value.toString();
 }
 
@@ -51,10 +51,10 @@ QStringList JsonFile::texts(const QJsonObject& object, const QString& key) {
     const QJsonValue value = object.value(key);
     QStringList found;
     if (!value.isUndefined() && !value.isArray())
-        refuse(key, QStringLiteral("a list"));
+        refuse(key, u"a list"_s);
     for (const QJsonValue& each : value.toArray()) {
         if (!each.isString())
-            refuse(key, QStringLiteral("a list of texts"));
+            refuse(key, u"a list of texts"_s);
         found.append(each.toString());
     }
     return found;
@@ -64,10 +64,10 @@ QList<QJsonObject> JsonFile::objects(const QJsonObject& object, const QString& k
     const QJsonValue value = object.value(key);
     QList<QJsonObject> found;
     if (!value.isUndefined() && !value.isArray())
-        refuse(key, QStringLiteral("a list"));
+        refuse(key, u"a list"_s);
     for (const QJsonValue& each : value.toArray()) {
         if (!each.isObject())
-            refuse(key, QStringLiteral("a list of objects"));
+            refuse(key, u"a list of objects"_s);
         found.append(each.toObject());
     }
     return found;
@@ -76,7 +76,7 @@ QList<QJsonObject> JsonFile::objects(const QJsonObject& object, const QString& k
 QJsonObject JsonFile::object(const QJsonObject& object, const QString& key) {
     const QJsonValue value = object.value(key);
     if (!value.isUndefined() && !value.isObject())
-        refuse(key, QStringLiteral("an object"));
+        refuse(key, u"an object"_s);
     return value.toObject();
 }
 
@@ -88,7 +88,7 @@ void JsonFile::readSeconds(const QJsonObject& object, const QString& key,
     else if (value.isDouble())
         seconds = value.toDouble();
     else if (!value.isUndefined())
-        refuse(key, QStringLiteral("a number of seconds or null"));
+        refuse(key, u"a number of seconds or null"_s);
 }
 
 void JsonFile::readInteger(const QJsonObject& object, const QString& key, qint64& number) {
@@ -97,7 +97,7 @@ void JsonFile::readInteger(const QJsonObject& object, const QString& key, qint64
         return;
     // The default is the answer for what is no number, no whole one or too large a one.
     if (value.toInteger(0) != value.toInteger(1))
-        refuse(key, QStringLiteral("a whole number of up to 64 bits"));
+        refuse(key, u"a whole number of up to 64 bits"_s);
     number = value.toInteger();
 }
 

@@ -11,6 +11,8 @@
 #include "platform/rehearsal/messages_settings.h"
 #include "platform/rehearsal/script_parser.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -94,7 +96,7 @@ class MessagesApplication::History {
 MessagesApplication::MessagesApplication(Clock& clock, const QString& home)
     : clock_(clock),
       settingsPath_(messagesSettingsPath(home)),
-      history_(std::make_shared<History>(home + QStringLiteral("/Library/Messages/chat.db"))) {}
+      history_(std::make_shared<History>(home + u"/Library/Messages/chat.db"_s)) {}
 
 MessagesApplication::~MessagesApplication() = default;
 
@@ -104,7 +106,7 @@ ScriptResult MessagesApplication::run(const QString& source) {
         return failed(text.error().description);
     const auto behaviour = readSendBehaviour(settingsPath_, text->phone, text->service);
     if (!behaviour)
-        return failed(QStringLiteral("Messages got an error: ") + behaviour.error().description);
+        return failed(u"Messages got an error: "_s + behaviour.error().description);
     if (behaviour->scriptError)
         return failed(*behaviour->scriptError);
     if (!behaviour->recordAfter)

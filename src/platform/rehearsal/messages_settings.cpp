@@ -2,25 +2,27 @@
 
 #include "platform/rehearsal/json_file.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
 
 void apply(JsonFile& file, const QJsonObject& settings, SendBehaviour& behaviour) {
-    if (auto line = file.optionalText(settings, QStringLiteral("line")))
+    if (auto line = file.optionalText(settings, u"line"_s))
         behaviour.line = *line;
-    file.readSeconds(settings, QStringLiteral("recordAfter"), behaviour.recordAfter);
-    file.readSeconds(settings, QStringLiteral("sentAfter"), behaviour.sentAfter);
-    file.readSeconds(settings, QStringLiteral("deliveredAfter"), behaviour.deliveredAfter);
-    file.readInteger(settings, QStringLiteral("error"), behaviour.error);
-    if (auto error = file.optionalText(settings, QStringLiteral("scriptError")))
+    file.readSeconds(settings, u"recordAfter"_s, behaviour.recordAfter);
+    file.readSeconds(settings, u"sentAfter"_s, behaviour.sentAfter);
+    file.readSeconds(settings, u"deliveredAfter"_s, behaviour.deliveredAfter);
+    file.readInteger(settings, u"error"_s, behaviour.error);
+    if (auto error = file.optionalText(settings, u"scriptError"_s))
         behaviour.scriptError = *error;
 }
 
 }  // namespace
 
 QString messagesSettingsPath(const QString& home) {
-    return home + QStringLiteral("/Library/Messages/messages.json");
+    return home + u"/Library/Messages/messages.json"_s;
 }
 
 std::expected<SendBehaviour, FileError> readSendBehaviour(const QString& path, const QString& phone,
@@ -29,7 +31,7 @@ std::expected<SendBehaviour, FileError> readSendBehaviour(const QString& path, c
     if (!file)
         return std::unexpected(file.error());
     SendBehaviour behaviour;
-    const QJsonObject people = file->object(file->root(), QStringLiteral("people"));
+    const QJsonObject people = file->object(file->root(), u"people"_s);
     const QJsonObject person = file->object(people, phone);
     apply(*file, file->root(), behaviour);
     apply(*file, person, behaviour);
@@ -41,7 +43,7 @@ std::expected<SendBehaviour, FileError> readSendBehaviour(const QString& path, c
 
 QVariant readAliases(const QString& path) {
     const auto file = JsonFile::read(path);
-    return file ? file->root().value(QStringLiteral("aliases")).toVariant() : QVariant();
+    return file ? file->root().value(u"aliases"_s).toVariant() : QVariant();
 }
 
 }  // namespace velmora

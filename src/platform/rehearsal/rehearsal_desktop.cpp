@@ -4,12 +4,14 @@
 
 #include "app/product_pages.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
 
 void wouldOpen(const QString& what) {
-    std::fputs(qPrintable(QStringLiteral("Rehearsal: would open %1\n").arg(what)), stderr);
+    std::fputs(qPrintable(u"Rehearsal: would open %1\n"_s.arg(what)), stderr);
 }
 
 }  // namespace
@@ -19,13 +21,12 @@ std::unique_ptr<Activity> RehearsalDesktop::beginActivity(const QString&) {
 }
 
 void RehearsalDesktop::openPrivacyPane(PrivacyPane pane) {
-    wouldOpen(pane == PrivacyPane::fullDiskAccess
-                  ? QStringLiteral("Privacy & Security at Full Disk Access")
-                  : QStringLiteral("Privacy & Security at Contacts"));
+    wouldOpen(pane == PrivacyPane::fullDiskAccess ? u"Privacy & Security at Full Disk Access"_s
+                                                  : u"Privacy & Security at Contacts"_s);
 }
 
 void RehearsalDesktop::openMessages() {
-    wouldOpen(QStringLiteral("Messages"));
+    wouldOpen(u"Messages"_s);
 }
 
 void RehearsalDesktop::openPage(ProductPage page) {

@@ -6,6 +6,8 @@
 #include "platform/rehearsal/messages_application.h"
 #include "platform/rehearsal/rehearsal_desktop.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -27,7 +29,7 @@ Platform makeRehearsalPlatform(Clock& clock, const QString& home) {
         .desktop = std::make_unique<RehearsalDesktop>(),
         .look = nullptr,
         .home = home,
-        .applicationSupport = home + QStringLiteral("/.local/share"),
+        .applicationSupport = home + u"/.local/share"_s,
     };
 }
 

@@ -1,5 +1,7 @@
 #include "platform/rehearsal/script_parser.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -36,8 +38,7 @@ class ScriptReader {
 
     [[nodiscard]] ScriptError error() const {
         const qsizetype line = source_.first(position_).count(u'\n') + 1;
-        return {QStringLiteral("Messages got an error: Can't understand line %1 of the script.")
-                    .arg(line)};
+        return {u"Messages got an error: Can't understand line %1 of the script."_s.arg(line)};
     }
 
   private:

@@ -7,9 +7,9 @@
 #include "core/phone.h"
 #include "ui/run/run_display.h"
 
-namespace velmora {
-
 using namespace Qt::StringLiterals;
+
+namespace velmora {
 
 namespace {
 

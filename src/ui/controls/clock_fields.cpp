@@ -3,6 +3,8 @@
 #include <QLocale>
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -16,9 +18,9 @@ int wrapped(int value, int count) {
 }
 
 QString separatorOf(const QString& format) {
-    static const QRegularExpression between(QStringLiteral("[hH]+((?:'[^']*'|[^hHm'])+)m"));
+    static const QRegularExpression between(u"[hH]+((?:'[^']*'|[^hHm'])+)m"_s);
     const QRegularExpressionMatch match = between.match(format);
-    return match.hasMatch() ? match.captured(1).remove(u'\'') : QStringLiteral(":");
+    return match.hasMatch() ? match.captured(1).remove(u'\'') : u":"_s;
 }
 
 }  // namespace
@@ -47,13 +49,13 @@ void ClockFields::setMinute(int minute) {
 
 QString ClockFields::hourText() const {
     if (!twelveHour_)
-        return QStringLiteral("%1").arg(hour_, 2, 10, QLatin1Char('0'));
+        return u"%1"_s.arg(hour_, 2, 10, QLatin1Char('0'));
     const int shown = hour_ % hoursOfHalf;
     return QString::number(shown == 0 ? hoursOfHalf : shown);
 }
 
 QString ClockFields::minuteText() const {
-    return QStringLiteral("%1").arg(minute_, 2, 10, QLatin1Char('0'));
+    return u"%1"_s.arg(minute_, 2, 10, QLatin1Char('0'));
 }
 
 QString ClockFields::halfText() const {

@@ -2,17 +2,17 @@
 
 #include <QEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
 
 using Command = MenuCommands::Command;
 
-MenuEntry item(const char16_t* text, const char16_t* shortcut, Command command) {
-    return {.text = QString::fromUtf16(text),
-            .shortcut = QString::fromUtf16(shortcut),
-            .command = command,
-            .reach = MenuCommands::Reach::text};
+MenuEntry item(const QString& text, const QString& shortcut, Command command) {
+    return {
+        .text = text, .shortcut = shortcut, .command = command, .reach = MenuCommands::Reach::text};
 }
 
 const char* operationOf(Command command) {
@@ -49,13 +49,13 @@ bool canRun(Command command, const QObject& field) {
 }  // namespace
 
 std::vector<MenuEntry> TextCommands::editMenu() {
-    return {item(u"Undo", u"Ctrl+Z", Command::undo),
-            item(u"Redo", u"Ctrl+Shift+Z", Command::redo),
+    return {item(u"Undo"_s, u"Ctrl+Z"_s, Command::undo),
+            item(u"Redo"_s, u"Ctrl+Shift+Z"_s, Command::redo),
             {},
-            item(u"Cut", u"Ctrl+X", Command::cut),
-            item(u"Copy", u"Ctrl+C", Command::copy),
-            item(u"Paste", u"Ctrl+V", Command::paste),
-            item(u"Select All", u"Ctrl+A", Command::selectAllText)};
+            item(u"Cut"_s, u"Ctrl+X"_s, Command::cut),
+            item(u"Copy"_s, u"Ctrl+C"_s, Command::copy),
+            item(u"Paste"_s, u"Ctrl+V"_s, Command::paste),
+            item(u"Select All"_s, u"Ctrl+A"_s, Command::selectAllText)};
 }
 
 QVariantList TextCommands::entriesFor(const QObject* field) {

@@ -2,14 +2,15 @@
 
 #include <QLocale>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 QString clockTimeText(Moment moment) {
     const QLocale locale;
     // The long format differs from the one with seconds only by the zone, "t", at one of its ends.
     QString format = locale.timeFormat(QLocale::LongFormat);
-    for (const QString& zone : {QStringLiteral("(tttt)"), QStringLiteral("tttt"),
-                                QStringLiteral("[t]"), QStringLiteral("(t)")})
+    for (const QString& zone : {u"(tttt)"_s, u"tttt"_s, u"[t]"_s, u"(t)"_s})
         format.remove(zone);
     format = format.trimmed();
     if (format.endsWith(u't'))

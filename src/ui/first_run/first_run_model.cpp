@@ -6,6 +6,8 @@
 #include "ui/first_run/clock_time.h"
 #include "ui/first_run/full_disk_access_timeline.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 FirstRunModel::FirstRunModel(AppModel& model) : model_(model) {
@@ -46,20 +48,20 @@ QStringList FirstRunModel::numbers() const {
 
 QString FirstRunModel::senderText() const {
     if (numbersFound())
-        return QStringLiteral(
-            "Velmora sends through Messages, from your own number. Choose it once. You can change "
-            "it later in Settings.");
-    return QStringLiteral(
-        "Velmora couldn't find a number on this Mac. Open Messages, choose Settings, then "
-        "iMessage, and tick your phone number under \"You can be reached for messages at\". Then "
-        "check again.");
+        return u"Velmora sends through Messages, from your own number. Choose it once. You can "
+               u"change "
+               "it later in Settings."_s;
+    return u"Velmora couldn't find a number on this Mac. Open Messages, choose Settings, then "
+           "iMessage, and tick your phone number under \"You can be reached for messages at\". "
+           "Then "
+           "check again."_s;
 }
 
 QString FirstRunModel::checkedText() const {
     const std::optional<Moment> checkedAt = model_.numbersCheckedAt;
     if (numbersFound() || !checkedAt)
         return {};
-    return QStringLiteral("Checked at %1. Still nothing found.").arg(clockTimeText(*checkedAt));
+    return u"Checked at %1. Still nothing found."_s.arg(clockTimeText(*checkedAt));
 }
 
 void FirstRunModel::chooseNumber(int index) {

@@ -5,12 +5,14 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
 
 QByteArray drawing(const QString& name, SymbolWeight weight) {
-    QFile file(QStringLiteral(":/velmora/symbols/%1.svg").arg(name));
+    QFile file(u":/velmora/symbols/%1.svg"_s.arg(name));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QByteArray svg = file.readAll();
@@ -51,10 +53,10 @@ QImage DrawnLook::picture(SystemPicture which, QSize pixels) const {
     if (pixels.isEmpty())
         return {};
     if (which == SystemPicture::applicationIcon) {
-        QSvgRenderer icon(QStringLiteral(":/velmora/icon/velmora.svg"));
+        QSvgRenderer icon(u":/velmora/icon/velmora.svg"_s);
         return drawn(icon, pixels, QRectF(QPointF(), pixels));
     }
-    QSvgRenderer pointer(QStringLiteral(":/velmora/icon/arrow_pointer.svg"));
+    QSvgRenderer pointer(u":/velmora/icon/arrow_pointer.svg"_s);
     const double scale = pixels.width() / pointerPicturePoints;
     return drawn(pointer, pixels, QRectF(QPointF(), QSizeF(pointer.defaultSize()) * scale));
 }

@@ -4,6 +4,8 @@
 
 namespace velmora {
 
+using namespace Qt::StringLiterals;
+
 /// The look that the application brings along: the symbols below `/velmora/symbols` and the
 /// pictures below `/velmora/icon`, SVG resources both, a menu bar in the window, and the font
 /// Inter.
@@ -14,7 +16,7 @@ class DrawnLook : public NativeLook {
                                 SymbolWeight weight) const override;
     [[nodiscard]] QImage picture(SystemPicture which, QSize pixels) const override;
     [[nodiscard]] bool nativeMenuBar() const override { return false; }
-    [[nodiscard]] QString fontFamily() const override { return QStringLiteral("Inter"); }
+    [[nodiscard]] QString fontFamily() const override { return u"Inter"_s; }
     [[nodiscard]] bool reducesMotion() const override { return false; }
 };
 

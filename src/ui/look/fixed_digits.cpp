@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -23,7 +25,7 @@ bool isPlain(QChar character) {
 double widestDigit(const QRawFont& face) {
     double widest = 0;
     for (const QPointF& advance :
-         face.advancesForGlyphIndexes(face.glyphIndexesForString(QStringLiteral("0123456789"))))
+         face.advancesForGlyphIndexes(face.glyphIndexesForString(u"0123456789"_s)))
         widest = std::max(widest, advance.x());
     return widest;
 }

@@ -1,5 +1,7 @@
 #include "ui/look/symbol_address.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 QUrl SymbolAddress::of(const QString& name, const QColor& tint, bool light) {
@@ -7,8 +9,7 @@ QUrl SymbolAddress::of(const QString& name, const QColor& tint, bool light) {
         return {};
     const quint32 rgba =
         (static_cast<quint32>(tint.rgb()) << 8U) | static_cast<quint32>(tint.alpha());
-    return QStringLiteral("image://symbol/%1/%2/%3")
-        .arg(name, light ? QStringLiteral("light") : QStringLiteral("regular"))
+    return u"image://symbol/%1/%2/%3"_s.arg(name, light ? u"light"_s : u"regular"_s)
         .arg(rgba, 8, 16, QLatin1Char('0'));
 }
 

@@ -5,6 +5,8 @@
 #include <optional>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -12,9 +14,9 @@ namespace {
 constexpr int defaultSide = 16;
 
 std::optional<SymbolWeight> weightFrom(const QString& text) {
-    if (text == QLatin1String("regular"))
+    if (text == "regular"_L1)
         return SymbolWeight::regular;
-    if (text == QLatin1String("light"))
+    if (text == "light"_L1)
         return SymbolWeight::light;
     return std::nullopt;
 }
@@ -48,9 +50,9 @@ QImage SymbolImageProvider::requestImage(const QString& id, QSize* size,
 }
 
 QImage SymbolImageProvider::image(const QString& id, QSize pixels) const {
-    if (id == QLatin1String("applicationIcon"))
+    if (id == "applicationIcon"_L1)
         return look_->picture(SystemPicture::applicationIcon, pixels);
-    if (id == QLatin1String("arrowPointer"))
+    if (id == "arrowPointer"_L1)
         return look_->picture(SystemPicture::arrowPointer, pixels);
     const QStringList fields = id.split(u'/');
     if (fields.size() != 3)

@@ -7,6 +7,8 @@
 
 #include "ui/controls/text_commands.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -24,32 +26,29 @@ QVariant menu(const QString& title, const std::vector<MenuEntry>& entries,
     return QVariant::fromValue(made);
 }
 
-MenuEntry item(const char16_t* text, const char16_t* shortcut, Command command,
+MenuEntry item(const QString& text, const QString& shortcut, Command command,
                Reach reach = Reach::application) {
-    return {.text = QString::fromUtf16(text),
-            .shortcut = QString::fromUtf16(shortcut),
-            .command = command,
-            .reach = reach};
+    return {.text = text, .shortcut = shortcut, .command = command, .reach = reach};
 }
 
 QVariant applicationMenu() {
-    return menu(QStringLiteral("Velmora"),
-                {item(u"About Velmora", u"", Command::about),
+    return menu(u"Velmora"_s,
+                {item(u"About Velmora"_s, u""_s, Command::about),
                  {},
-                 item(u"Settings\u2026", u"Ctrl+,", Command::settings, Reach::agreed),
+                 item(u"Settings\u2026"_s, u"Ctrl+,"_s, Command::settings, Reach::agreed),
                  {},
-                 item(u"Quit Velmora", u"Ctrl+Q", Command::quit)},
+                 item(u"Quit Velmora"_s, u"Ctrl+Q"_s, Command::quit)},
                 Owner::application);
 }
 
 QVariant peopleMenu() {
-    return menu(QStringLiteral("People"),
-                {item(u"Select All", u"Ctrl+Shift+A", Command::selectShown, Reach::content),
-                 item(u"Clear Selection", u"Ctrl+Shift+D", Command::clearShown, Reach::content),
+    return menu(u"People"_s,
+                {item(u"Select All"_s, u"Ctrl+Shift+A"_s, Command::selectShown, Reach::content),
+                 item(u"Clear Selection"_s, u"Ctrl+Shift+D"_s, Command::clearShown, Reach::content),
                  {},
-                 item(u"Reload from Contacts", u"Ctrl+R", Command::reload, Reach::content),
+                 item(u"Reload from Contacts"_s, u"Ctrl+R"_s, Command::reload, Reach::content),
                  {},
-                 item(u"Send\u2026", u"Ctrl+Return", Command::send, Reach::content)});
+                 item(u"Send\u2026"_s, u"Ctrl+Return"_s, Command::send, Reach::content)});
 }
 
 void runOnWindow(Command command) {
@@ -76,22 +75,21 @@ QStringList MenuEntry::sequences() const {
     const QLatin1String mainReturn("Return");
     QStringList all(shortcut);
     if (shortcut.endsWith(mainReturn))
-        all.append(shortcut.chopped(mainReturn.size()) + QLatin1String("Enter"));
+        all.append(shortcut.chopped(mainReturn.size()) + "Enter"_L1);
     return all;
 }
 
 MenuCommands::MenuCommands(AppModel& model) : model_(model) {}
 
 QVariantList MenuCommands::menus() const {
-    return {
-        applicationMenu(),
-        menu(QStringLiteral("File"), {item(u"Close", u"Ctrl+W", Command::close)}),
-        menu(QStringLiteral("Edit"), TextCommands::editMenu()),
-        peopleMenu(),
-        menu(QStringLiteral("Window"),
-             {item(u"Minimize", u"Ctrl+M", Command::minimize), item(u"Zoom", u"", Command::zoom)}),
-        menu(QStringLiteral("Help"), {item(u"Terms of Use", u"", Command::terms),
-                                      item(u"Pacing and Safeguards", u"", Command::safeguards)})};
+    return {applicationMenu(),
+            menu(u"File"_s, {item(u"Close"_s, u"Ctrl+W"_s, Command::close)}),
+            menu(u"Edit"_s, TextCommands::editMenu()),
+            peopleMenu(),
+            menu(u"Window"_s, {item(u"Minimize"_s, u"Ctrl+M"_s, Command::minimize),
+                               item(u"Zoom"_s, u""_s, Command::zoom)}),
+            menu(u"Help"_s, {item(u"Terms of Use"_s, u""_s, Command::terms),
+                             item(u"Pacing and Safeguards"_s, u""_s, Command::safeguards)})};
 }
 
 void MenuCommands::run(Command command) {

@@ -3,9 +3,9 @@
 #include "app/recipient_check.h"
 #include "core/phone.h"
 
-namespace velmora {
-
 using namespace Qt::StringLiterals;
+
+namespace velmora {
 
 QString displayName(const Recipient& recipient) {
     const bool nameless = recipient.name == "(no name)"_L1 && !recipient.company.isEmpty();

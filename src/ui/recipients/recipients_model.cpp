@@ -4,9 +4,9 @@
 
 #include "ui/recipients/row_changes.h"
 
-namespace velmora {
-
 using namespace Qt::StringLiterals;
+
+namespace velmora {
 
 namespace {
 

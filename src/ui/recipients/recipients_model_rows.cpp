@@ -5,9 +5,9 @@
 #include "ui/recipients/recipient_display.h"
 #include "ui/recipients/recipients_model.h"
 
-namespace velmora {
-
 using namespace Qt::StringLiterals;
+
+namespace velmora {
 
 int RecipientsModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(rows_.size());

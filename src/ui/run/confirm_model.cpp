@@ -5,6 +5,8 @@
 #include "core/phone.h"
 #include "ui/run/run_display.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 ConfirmModel::ConfirmModel(AppModel& model) : model_(model), opening_(model) {
@@ -31,7 +33,7 @@ QString ConfirmModel::title() const {
 
 QString ConfirmModel::exampleCaption() const {
     const auto example = model_.exampleRecipient();
-    return example ? QStringLiteral("Example for ") + example->name : QString();
+    return example ? u"Example for "_s + example->name : QString();
 }
 
 QString ConfirmModel::exampleText() const {

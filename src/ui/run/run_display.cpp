@@ -5,9 +5,9 @@
 
 #include "sending/send_outcome.h"
 
-namespace velmora {
-
 using namespace Qt::StringLiterals;
+
+namespace velmora {
 
 namespace {
 

@@ -6,6 +6,8 @@
 
 #include "core/phone.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -14,7 +16,7 @@ QString optionOf(const NumberInfo& info) {
     const QString number = displayPhone(info.number);
     if (info.count < 1)
         return number;
-    return QStringLiteral("%1  (%2 messages)").arg(number, QString::number(info.count));
+    return u"%1  (%2 messages)"_s.arg(number, QString::number(info.count));
 }
 
 bool isListed(const std::vector<NumberInfo>& numbers, const QString& number) {
@@ -45,12 +47,12 @@ bool SettingsModel::locked() const {
 
 QStringList SettingsModel::senderOptions() const {
     const std::vector<NumberInfo> numbers = model_.numbers;
-    QStringList options{QStringLiteral("Choose a number")};
+    QStringList options{u"Choose a number"_s};
     for (const NumberInfo& each : numbers)
         options.append(optionOf(each));
     const QString chosen = model_.config().senderNumber;
     if (!chosen.isEmpty() && !isListed(numbers, chosen))
-        options.append(displayPhone(chosen) + QStringLiteral("  (not found on this Mac)"));
+        options.append(displayPhone(chosen) + u"  (not found on this Mac)"_s);
     return options;
 }
 
@@ -133,8 +135,7 @@ void SettingsModel::setMaxFailures(int count) {
 }
 
 QString SettingsModel::failuresText() const {
-    return QStringLiteral("Pause after %1 failures in a row")
-        .arg(QString::number(model_.config().maxFailures));
+    return u"Pause after %1 failures in a row"_s.arg(QString::number(model_.config().maxFailures));
 }
 
 QString SettingsModel::testPhone() const {

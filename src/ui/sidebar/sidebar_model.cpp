@@ -2,14 +2,15 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
 
 std::vector<GroupInfo> listsOf(const AppModel& model) {
-    std::vector<GroupInfo> lists{{.id = allContactsID,
-                                  .name = QStringLiteral("All Contacts"),
-                                  .count = model.allContactsCount}};
+    std::vector<GroupInfo> lists{
+        {.id = allContactsID, .name = u"All Contacts"_s, .count = model.allContactsCount}};
     const std::vector<GroupInfo> groups = model.groups;
     lists.insert(lists.end(), groups.begin(), groups.end());
     return lists;
@@ -36,8 +37,7 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const {
         case nameRole:
             return list.name;
         case symbolRole:
-            return list.id == allContactsID ? QStringLiteral("person.2")
-                                            : QStringLiteral("person.3");
+            return list.id == allContactsID ? u"person.2"_s : u"person.3"_s;
         case countRole:
             return list.count;
         default:

@@ -7,6 +7,8 @@
 #include "ui/look/symbol_image_provider.h"
 #include "ui/look/system_appearance.h"
 
+using namespace Qt::StringLiterals;
+
 // The module's types register themselves from here: in a static library without a plugin nothing
 // else refers to them, and the linker would leave them out.
 void qml_register_types_Velmora();  // NOLINT(readability-identifier-naming): the toolkit's name
@@ -39,7 +41,7 @@ MainWindow::MainWindow(AppModel& model, std::unique_ptr<NativeLook> look, Motion
         qputenv("QT_QPA_UPDATE_IDLE_TIME", updatePause);
     qml_register_types_Velmora();
     useFont(look->fontFamily());
-    engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine_.addImportPath(u"qrc:/qt/qml"_s);
     auto* appearance = engine_.singletonInstance<SystemAppearance*>(
         qmlTypeId("Velmora", 1, 0, "SystemAppearance"));
     // The look is given to the engine below, and lives as long as what follows it.
@@ -47,11 +49,10 @@ MainWindow::MainWindow(AppModel& model, std::unique_ptr<NativeLook> look, Motion
         appearance->setMotion(motion == Motion::animated, asked->reducesMotion());
     };
     followMotion();
-    engine_.setInitialProperties(
-        {{QStringLiteral("presentation"), QVariant::fromValue(&presentation_)},
-         {QStringLiteral("nativeMenus"), look->nativeMenuBar()}});
-    engine_.addImageProvider(QStringLiteral("symbol"), new SymbolImageProvider(std::move(look)));
-    engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Velmora/MainWindowRoot.qml")));
+    engine_.setInitialProperties({{u"presentation"_s, QVariant::fromValue(&presentation_)},
+                                  {u"nativeMenus"_s, look->nativeMenuBar()}});
+    engine_.addImageProvider(u"symbol"_s, new SymbolImageProvider(std::move(look)));
+    engine_.load(QUrl(u"qrc:/qt/qml/Velmora/MainWindowRoot.qml"_s));
     if (!engine_.rootObjects().isEmpty())
         window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
     if (window_ == nullptr)

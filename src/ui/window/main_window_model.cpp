@@ -1,5 +1,7 @@
 #include "ui/window/main_window_model.h"
 
+using namespace Qt::StringLiterals;
+
 namespace velmora {
 
 namespace {
@@ -13,16 +15,15 @@ struct EmptyStateContent {
 
 EmptyStateContent emptyStateContent(const AppModel& model) {
     if (!model.contactsAllowed) {
-        return {
-            .icon = QStringLiteral("person.crop.circle.badge.exclamationmark"),
-            .title = QStringLiteral("Velmora can't read your Contacts"),
-            .message = QStringLiteral("Allow Contacts in System Settings, then reopen the app."),
-            .button = QStringLiteral("Open System Settings")};
+        return {.icon = u"person.crop.circle.badge.exclamationmark"_s,
+                .title = u"Velmora can't read your Contacts"_s,
+                .message = u"Allow Contacts in System Settings, then reopen the app."_s,
+                .button = u"Open System Settings"_s};
     }
-    return {.icon = QStringLiteral("sidebar.left"),
-            .title = QStringLiteral("Choose a list"),
-            .message = QStringLiteral(
-                "Pick a Contacts group, or All Contacts to choose anyone with a phone number."),
+    return {.icon = u"sidebar.left"_s,
+            .title = u"Choose a list"_s,
+            .message =
+                u"Pick a Contacts group, or All Contacts to choose anyone with a phone number."_s,
             .button = {}};
 }
 
@@ -52,17 +53,16 @@ MainWindowModel::MainWindowModel(AppModel& model)
 
 QString MainWindowModel::title() const {
     const auto group = model_.currentGroup();
-    return group ? group->name : QStringLiteral("Velmora");
+    return group ? group->name : u"Velmora"_s;
 }
 
 QString MainWindowModel::subtitle() const {
     if (!model_.config().selectedGroupID || model_.recipients().empty())
         return {};
-    QString text = QStringLiteral("%1 of %2 selected")
-                       .arg(model_.selection().size())
-                       .arg(model_.recipients().size());
+    QString text =
+        u"%1 of %2 selected"_s.arg(model_.selection().size()).arg(model_.recipients().size());
     if (const qsizetype attention = model_.attentionCount(); attention >= 1)
-        text += QStringLiteral(" \u00B7 %1 need attention").arg(attention);
+        text += u" \u00B7 %1 need attention"_s.arg(attention);
     return text;
 }
 
@@ -99,24 +99,22 @@ MainWindowModel::Banner MainWindowModel::banner() const {
 }
 
 QString MainWindowModel::bannerSymbol() const {
-    return banner() == Banner::fullDiskAccess ? QStringLiteral("lock.trianglebadge.exclamationmark")
-                                              : QStringLiteral("iphone");
+    return banner() == Banner::fullDiskAccess ? u"lock.trianglebadge.exclamationmark"_s
+                                              : u"iphone"_s;
 }
 
 QString MainWindowModel::bannerColor() const {
-    return banner() == Banner::fullDiskAccess ? QStringLiteral("red") : QStringLiteral("orange");
+    return banner() == Banner::fullDiskAccess ? u"red"_s : u"orange"_s;
 }
 
 QString MainWindowModel::bannerText() const {
     return banner() == Banner::fullDiskAccess
-               ? QStringLiteral(
-                     "Velmora needs Full Disk Access to check which line each text goes out on.")
-               : QStringLiteral("Choose the number you send from.");
+               ? u"Velmora needs Full Disk Access to check which line each text goes out on."_s
+               : u"Choose the number you send from."_s;
 }
 
 QString MainWindowModel::bannerButton() const {
-    return banner() == Banner::fullDiskAccess ? QStringLiteral("Show Me How")
-                                              : QStringLiteral("Open Settings");
+    return banner() == Banner::fullDiskAccess ? u"Show Me How"_s : u"Open Settings"_s;
 }
 
 void MainWindowModel::followBanner() {
@@ -164,8 +162,7 @@ bool MainWindowModel::settingsEnabled() const {
 bool MainWindowModel::mayClose() {
     if (!model_.runner().isActive())
         return true;
-    model_.alert =
-        QStringLiteral("A run is still going. Stop it and let it end, then close Velmora.");
+    model_.alert = u"A run is still going. Stop it and let it end, then close Velmora."_s;
     return false;
 }
 

@@ -16,6 +16,8 @@
 #include "ui/look/fixed_digits.h"
 #include "ui/look/symbol_image_provider.h"
 
+using namespace Qt::StringLiterals;
+
 void qml_register_types_Velmora();  // NOLINT(readability-identifier-naming): the toolkit's name
 
 namespace velmora {
@@ -41,7 +43,7 @@ double coverage(const QImage& image) {
 // usual.
 TEST(Symbols, areTintedOnTheirGridAndThinnerWhenLight) {
     const DrawnLook source;
-    const QStringList files = QDir(QStringLiteral(":/velmora/symbols")).entryList();
+    const QStringList files = QDir(u":/velmora/symbols"_s).entryList();
     ASSERT_FALSE(files.isEmpty());
     for (const QString& file : files) {
         const QString name = file.chopped(4);
@@ -78,10 +80,10 @@ TEST(Symbols, theProviderReadsItsAddressAndRefusesAnyOther) {
 // Catches a picture that is stretched, off its place or of another scale, and one without a size.
 TEST(Pictures, anIconIsCentredAndAPointerHasItsTipInTheCorner) {
     SymbolImageProvider provider(std::make_unique<DrawnLook>());
-    const QImage icon = provider.requestImage(QStringLiteral("applicationIcon"), nullptr, {80, 40});
+    const QImage icon = provider.requestImage(u"applicationIcon"_s, nullptr, {80, 40});
     EXPECT_EQ(coverage(icon.copy(0, 0, 20, 40)) + coverage(icon.copy(60, 0, 20, 40)), 0);
     EXPECT_GT(coverage(icon.copy(20, 0, 40, 40)), 900);
-    const QImage arrow = provider.requestImage(QStringLiteral("arrowPointer"), nullptr, {64, 64});
+    const QImage arrow = provider.requestImage(u"arrowPointer"_s, nullptr, {64, 64});
     EXPECT_NEAR(coverage(arrow), coverage(arrow.copy(0, 0, 28, 40)), 1e-6);
     EXPECT_GT(coverage(arrow.copy(0, 0, 4, 4)), 12) << "the tip is elsewhere";
     EXPECT_GT(coverage(arrow.copy(0, 32, 28, 8)), 8) << "too small";
@@ -116,7 +118,7 @@ QColor over(const QColor& below, const QColor& color, double opacity) {
 TEST(Theme, TextStandsOutOnEverything) {
     qml_register_types_Velmora();
     QQmlEngine engine;
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine.addImportPath(u"qrc:/qt/qml"_s);
     QQmlComponent component(&engine);
     component.setData("import QtQml\nimport Velmora\nQtObject { property var theme: Theme }", {});
     const std::unique_ptr<QObject> holder(component.create());
@@ -165,8 +167,8 @@ TEST(FixedDigits, TakeTheSameWidth) {
     FixedDigits wide;
     narrow.setPixelSize(12);
     wide.setPixelSize(12);
-    narrow.setText(QStringLiteral("1:11 AM"));
-    wide.setText(QStringLiteral("8:40 AM"));
+    narrow.setText(u"1:11 AM"_s);
+    wide.setText(u"8:40 AM"_s);
     EXPECT_GT(narrow.implicitWidth(), 0);
     EXPECT_EQ(narrow.implicitWidth(), wide.implicitWidth());
     wide.setPixelSize(24);

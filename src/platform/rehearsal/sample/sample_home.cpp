@@ -5,6 +5,8 @@
 
 #include "platform/rehearsal/history_writer.h"
 
+using namespace Qt::StringLiterals;
+
 static void makeSampleFilesKnown() {
     Q_INIT_RESOURCE(sample);
 }
@@ -12,8 +14,6 @@ static void makeSampleFilesKnown() {
 namespace velmora {
 
 namespace {
-
-using namespace Qt::Literals::StringLiterals;
 
 constexpr QStringView firstLine = u"+12125550100";
 constexpr QStringView secondLine = u"+12125550101";
