@@ -2,12 +2,11 @@
 
 #include <qcoro/qcorotask.h>
 
-#include <QObject>
-#include <QObjectBindableProperty>
 #include <QSet>
 #include <optional>
 #include <vector>
 
+#include "app/app_state.h"
 #include "app/desktop.h"
 #include "app/recipient_search.h"
 #include "contacts/contacts_service.h"
@@ -43,7 +42,7 @@ enum class QuietField { start, end };
 /// The one object that the whole interface observes: settings, lists, people, permissions, the run.
 /// Lives on the interface thread. No operation returns an error: problems end up in `alert`,
 /// `dbOK`, `contactsAllowed` or `testResult`.
-class AppModel final : public QObject {
+class AppModel final : public AppState {
     Q_OBJECT
 
   public:
@@ -172,78 +171,6 @@ class AppModel final : public QObject {
 
     [[nodiscard]] Runner& runner() { return runner_; }
     [[nodiscard]] const Runner& runner() const { return runner_; }
-
-  Q_SIGNALS:
-    void configChanged();
-    void groupsChanged();
-    void recipientsReplaced();                   ///< the whole list is another
-    void recipientTextChanged(qsizetype index);  ///< one person's text (and note) is another
-    void recipientTextsChanged();                ///< everyone's text may be another
-    void selectionChanged();
-    void searchTextChanged();
-    void selectedOnlyChanged();
-    void allContactsCountChanged();
-    void batchNameChanged();
-    void numbersChanged();
-    void contactsAllowedChanged();
-    void dbOKChanged();
-    void dbErrorChanged();
-    void loadingChanged();
-    void alertChanged();
-    void testPhoneChanged();
-    void testResultChanged();
-    void testingChanged();
-    void skippedSenderSetupChanged();
-    void showingFDAHelpChanged();
-    void skippedFDAHelpChanged();
-    void numbersCheckedAtChanged();
-    void bootstrappedChanged();
-    void confirmingRunChanged();
-    void editingNoteIDChanged();
-    void settingsRequested();
-
-  public:
-    // Observable: an assignment of another value announces itself.
-
-    /// The address-book groups, sorted by name; All Contacts is not among them.
-    Q_OBJECT_BINDABLE_PROPERTY(AppModel, std::vector<GroupInfo>, groups, &AppModel::groupsChanged)
-    Q_OBJECT_BINDABLE_PROPERTY(AppModel, QString, searchText, &AppModel::searchTextChanged)
-    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, selectedOnly, false,
-                                         &AppModel::selectedOnlyChanged)
-    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, qint64, allContactsCount, 0,
-                                         &AppModel::allContactsCountChanged)
-    /// The run name.
-    Q_OBJECT_BINDABLE_PROPERTY(AppModel, QString, batchName, &AppModel::batchNameChanged)
-    /// The user's own sending numbers, the busiest first.
-    Q_OBJECT_BINDABLE_PROPERTY(AppModel, std::vector<NumberInfo>, numbers,
-                               &AppModel::numbersChanged)
-    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, contactsAllowed, true,
-                                         &AppModel::contactsAllowedChanged)
-    /// Whether the Messages history can be opened and read, and the sentence that says why not.
-    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, dbOK, true, &AppModel::dbOKChanged)
-    Q_OBJECT_BINDABLE_PROPERTY(AppModel, QString, dbError, &AppModel::dbErrorChanged)
-    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, loading, false, &AppModel::loadingChanged)
-    /// The one sentence of the main window's alert.
-    Q_OBJECT_BINDABLE_PROPERTY(AppModel, std::optional<QString>, alert, &AppModel::alertChanged)
-    Q_OBJECT_BINDABLE_PROPERTY(AppModel, QString, testPhone, &AppModel::testPhoneChanged)
-    Q_OBJECT_BINDABLE_PROPERTY(AppModel, QString, testResult, &AppModel::testResultChanged)
-    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, testing, false, &AppModel::testingChanged)
-    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, skippedSenderSetup, false,
-                                         &AppModel::skippedSenderSetupChanged)
-    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, showingFDAHelp, false,
-                                         &AppModel::showingFDAHelpChanged)
-    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, skippedFDAHelp, false,
-                                         &AppModel::skippedFDAHelpChanged)
-    /// When the sending numbers were last read successfully.
-    Q_OBJECT_BINDABLE_PROPERTY(AppModel, std::optional<Moment>, numbersCheckedAt,
-                               &AppModel::numbersCheckedAtChanged)
-    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, bootstrapped, false,
-                                         &AppModel::bootstrappedChanged)
-    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, confirmingRun, false,
-                                         &AppModel::confirmingRunChanged)
-    /// The person whose personal note is being edited.
-    Q_OBJECT_BINDABLE_PROPERTY(AppModel, std::optional<QString>, editingNoteID,
-                               &AppModel::editingNoteIDChanged)
 
   private:
     // The list (app_model_list.cpp).

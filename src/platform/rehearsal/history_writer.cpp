@@ -6,29 +6,13 @@
 #include <QUuid>
 #include <utility>
 
+#include "platform/rehearsal/history_schema.h"
+
 using namespace Qt::StringLiterals;
 
 namespace velmora {
 
 namespace {
-
-// Short, for every reading of the history parses it anew. The keys of the two joins are the indexes
-// that the readers join by. destination_caller_id has no index: the count of the sending numbers
-// reads every message with one on that column, too, and takes as long.
-constexpr auto schema = R"sql(
-CREATE TABLE IF NOT EXISTS message (
-    ROWID INTEGER PRIMARY KEY, guid TEXT, text TEXT, handle_id INTEGER, service TEXT,
-    destination_caller_id TEXT, date INTEGER, is_from_me INTEGER, error INTEGER, is_sent INTEGER,
-    is_delivered INTEGER);
-CREATE TABLE IF NOT EXISTS handle (
-    ROWID INTEGER PRIMARY KEY, id TEXT, service TEXT, UNIQUE (id, service));
-CREATE TABLE IF NOT EXISTS chat (ROWID INTEGER PRIMARY KEY, guid TEXT, style INTEGER);
-CREATE TABLE IF NOT EXISTS chat_handle_join (
-    chat_id INTEGER, handle_id INTEGER, PRIMARY KEY (handle_id, chat_id)) WITHOUT ROWID;
-CREATE TABLE IF NOT EXISTS chat_message_join (
-    chat_id INTEGER, message_id INTEGER, PRIMARY KEY (chat_id, message_id)) WITHOUT ROWID;
-CREATE INDEX IF NOT EXISTS message_idx_handle ON message (handle_id, date);
-)sql";
 
 // In the order of HistoryWriter::Command.
 constexpr std::array commands{
@@ -112,7 +96,7 @@ std::expected<HistoryWriter, FileError> HistoryWriter::open(const QString& path)
     sqlite3_busy_timeout(connection, 250);
     // The cache holds the indexes of a large history, else bulk use crawls from page to page.
     for (const char* sql : {"PRAGMA journal_mode = WAL", "PRAGMA synchronous = NORMAL",
-                            "PRAGMA cache_size = -65536", schema}) {
+                            "PRAGMA cache_size = -65536", historySchema}) {
         if (sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
             return failure(u"open"_s, connection);
     }
