@@ -26,14 +26,6 @@ QtObject {
     readonly property color green: dark ? "#3fd160" : "#1a7331"
     readonly property color destructive: dark ? "#ffb0ab" : "#c41c17"
 
-    // The same where the row around it is drawn faint, which takes some of their contrast.
-    readonly property color primaryFaint: primary
-    readonly property color secondaryFaint: dark ? "#d2d2d7" : "#36363a"
-    readonly property color tertiaryFaint: secondaryFaint
-    readonly property color accentTextFaint: dark ? "#abd3ff" : "#04317a"
-    readonly property color orangeFaint: dark ? orange : "#964800"
-    readonly property color greenFaint: dark ? "#6fe98a" : "#0b3f1a"
-
     // Surfaces.
     readonly property color windowBackground: dark ? "#252527" : "#f5f5f7"
     readonly property color sidebarBackground: dark ? "#2e2e31" : "#eaeaed"
@@ -83,4 +75,27 @@ QtObject {
 
     /// What a screen reader hears of a control that is off, a state that the toolkit keeps to itself.
     readonly property string unavailable: "Unavailable"
+
+    // A row that steps back; what stands on it makes up for the contrast that this takes.
+    readonly property real faintOpacity: 0.72
+
+    /// What a tone looks like, on a row that is drawn faint or not.
+    function colorOf(tone: int, faint: bool): color {
+        switch (tone) {
+        case Look.Tone.secondary:
+            return !faint ? secondary : dark ? "#d2d2d7" : "#36363a";
+        case Look.Tone.tertiary:
+            return !faint ? tertiary : dark ? "#d2d2d7" : "#36363a";
+        case Look.Tone.accent:
+            return !faint ? accentText : dark ? "#abd3ff" : "#04317a";
+        case Look.Tone.red:
+            return red;
+        case Look.Tone.orange:
+            return faint && !dark ? "#964800" : orange;
+        case Look.Tone.green:
+            return !faint ? green : dark ? "#6fe98a" : "#0b3f1a";
+        case Look.Tone.primary:
+            return primary;
+        }
+    }
 }

@@ -5,13 +5,7 @@ import Velmora
 Column {
     id: line
 
-    property string phone
-    property string phoneLabel
-    property string threadText
-    property color threadTextColor
-    property string threadSymbol
-    property color threadSymbolColor
-    property color labelColor
+    required property recipientEntry entry
     property real maximumWidth
 
     width: Math.min(maximumWidth, Math.max(150, implicitWidth))
@@ -22,37 +16,37 @@ Column {
     FixedDigitsText {
         anchors.right: parent.right
         visible: text.length > 0
-        text: line.phone
+        text: line.entry.phone
         pixelSize: Theme.callout
     }
     BodyText {
         anchors.right: parent.right
         visible: text.length > 0
         width: Math.min(implicitWidth, line.maximumWidth)
-        text: line.phoneLabel
-        color: line.labelColor
+        text: line.entry.phoneLabel
+        color: Theme.colorOf(Look.Tone.secondary, line.entry.faint)
         font.pixelSize: Theme.caption
         wrapMode: Text.NoWrap
         elide: Text.ElideMiddle
     }
     Row {
         anchors.right: parent.right
-        visible: line.threadText.length > 0
+        visible: line.entry.thread.text.length > 0
         spacing: 4
 
         SymbolIcon {
             id: symbol
-            visible: line.threadSymbol.length > 0
+            visible: line.entry.thread.symbol.length > 0
             anchors.verticalCenter: parent.verticalCenter
-            name: line.threadSymbol
+            name: line.entry.thread.symbol
             size: Theme.caption + 2
-            color: line.threadSymbolColor
+            color: Theme.colorOf(line.entry.thread.symbolTone, false)
         }
         BodyText {
             width: Math.min(implicitWidth,
                             line.maximumWidth - (symbol.visible ? symbol.width + 4 : 0))
-            text: line.threadText
-            color: line.threadTextColor
+            text: line.entry.thread.text
+            color: Theme.colorOf(line.entry.thread.textTone, line.entry.faint)
             font.pixelSize: Theme.caption
             wrapMode: Text.NoWrap
             elide: Text.ElideMiddle

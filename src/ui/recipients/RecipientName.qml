@@ -6,10 +6,7 @@ import Velmora
 Item {
     id: line
 
-    property string name
-    property string company
-    property string sentText
-    property string shade
+    required property recipientEntry entry
 
     readonly property int gap: 6
     readonly property real room: width - (sent.visible ? sent.width + gap : 0)
@@ -19,7 +16,7 @@ Item {
     BodyText {
         id: nameText
         width: Math.max(0, Math.min(implicitWidth, line.room))
-        text: line.name
+        text: line.entry.name
         font.pixelSize: Theme.headline
         font.weight: Font.DemiBold
         wrapMode: Text.NoWrap
@@ -30,8 +27,8 @@ Item {
         x: nameText.width + line.gap
         width: Math.max(0, Math.min(implicitWidth, line.room - x))
         visible: text.length > 0 && line.room - x > 2 * Theme.body
-        text: line.company
-        color: Theme["secondary" + line.shade]
+        text: line.entry.company
+        color: Theme.colorOf(Look.Tone.secondary, line.entry.faint)
         wrapMode: Text.NoWrap
         elide: Text.ElideRight
     }
@@ -41,9 +38,9 @@ Item {
         y: (nameText.height - height) / 2
         width: implicitWidth
         visible: text.length > 0
-        text: line.sentText
+        text: line.entry.sentText
         symbol: "checkmark.seal.fill"
-        textColor: Theme["green" + line.shade]
+        textColor: Theme.colorOf(Look.Tone.green, line.entry.faint)
         fontSize: Theme.caption
         spacing: 4
     }

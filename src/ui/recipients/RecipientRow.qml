@@ -9,32 +9,9 @@ FocusScope {
 
     required property RecipientsModel recipients
     required property int index
-    required property string name
-    required property string company
-    required property string sentText
-    required property string issueText
-    required property string issueTextColor
-    required property string issueSymbol
-    required property string issueSymbolColor
-    required property string preview
-    required property string note
-    required property bool showsNote
-    required property bool offersNote
-    required property string phone
-    required property string phoneLabel
-    required property string threadText
-    required property string threadTextColor
-    required property string threadSymbol
-    required property string threadSymbolColor
-    required property bool checked
-    required property bool checkable
-    required property string checkName
-    required property real rowOpacity
-    required property string spoken
-    required property string heading
+    required property recipientEntry entry
 
     readonly property bool current: ListView.isCurrentItem
-    readonly property string shade: rowOpacity < 1 ? "Faint" : ""
 
     /// The row becomes the current one.
     signal activated
@@ -67,7 +44,7 @@ FocusScope {
     }
     ListView.onReused: visible = true
     Accessible.role: Accessible.ListItem
-    Accessible.name: spoken
+    Accessible.name: entry.spoken
     Accessible.focusable: true
     Accessible.focused: activeFocus
     Accessible.onPressAction: recipients.toggle(index)
@@ -79,7 +56,7 @@ FocusScope {
         topPadding: 14
         bottomPadding: 6
         visible: text.length > 0
-        text: row.heading
+        text: row.entry.heading
         color: Theme.secondary
         font.pixelSize: Theme.callout
         font.weight: Font.DemiBold
@@ -118,15 +95,15 @@ FocusScope {
         anchors.leftMargin: Theme.padding
         anchors.rightMargin: Theme.padding
         anchors.topMargin: 5 + headingHeight
-        opacity: row.rowOpacity
+        opacity: row.entry.faint ? Theme.faintOpacity : 1
 
         TickBox {
             id: box
             y: 1
             activeFocusOnTab: false
-            checked: row.checked
-            enabled: row.checkable
-            accessibleName: row.checkName
+            checked: row.entry.checked
+            enabled: row.entry.checkable
+            accessibleName: row.entry.checkName
             onToggled: checked => row.recipients.setChecked(row.index, checked)
         }
 
@@ -138,38 +115,35 @@ FocusScope {
 
             RecipientName {
                 width: parent.width
-                name: row.name
-                company: row.company
-                sentText: row.sentText
-                shade: row.shade
+                entry: row.entry
             }
             LabelWithSymbol {
                 width: parent.width
                 visible: text.length > 0
-                text: row.issueText
-                symbol: row.issueSymbol
-                textColor: Theme[row.issueTextColor + row.shade]
-                symbolColor: Theme[row.issueSymbolColor + row.shade]
+                text: row.entry.issue.text
+                symbol: row.entry.issue.symbol
+                textColor: Theme.colorOf(row.entry.issue.textTone, row.entry.faint)
+                symbolColor: Theme.colorOf(row.entry.issue.symbolTone, row.entry.faint)
                 fontSize: Theme.callout
             }
             SelectableText {
                 id: passage
                 width: parent.width
                 visible: text.length > 0
-                text: row.preview
-                color: Theme["secondary" + row.shade]
+                text: row.entry.preview
+                color: Theme.colorOf(Look.Tone.secondary, row.entry.faint)
                 lines: 3
                 onEntered: row.activated()
             }
             NoteLine {
                 id: noteLine
                 width: parent.width
-                visible: row.showsNote || row.offersNote
-                linkColor: Theme["accentText" + row.shade]
-                placeholderColor: Theme["tertiary" + row.shade]
-                note: row.note
-                showsField: row.showsNote
-                showsOffer: row.offersNote
+                visible: showsField || showsOffer
+                linkColor: Theme.colorOf(Look.Tone.accent, row.entry.faint)
+                placeholderColor: Theme.colorOf(Look.Tone.tertiary, row.entry.faint)
+                note: row.entry.note
+                showsField: row.entry.showsNote
+                showsOffer: row.entry.offersNote
                 fieldEnabled: row.recipients.enabled
                 onEntered: {
                     row.recipients.editNote(row.index);
@@ -184,14 +158,8 @@ FocusScope {
         RecipientLine {
             id: line
             anchors.right: parent.right
-            phone: row.phone
-            phoneLabel: row.phoneLabel
-            threadText: row.threadText
+            entry: row.entry
             maximumWidth: content.width / 2
-            labelColor: Theme["secondary" + row.shade]
-            threadTextColor: Theme[row.threadTextColor + row.shade]
-            threadSymbol: row.threadSymbol
-            threadSymbolColor: Theme[row.threadSymbolColor]
         }
     }
 }

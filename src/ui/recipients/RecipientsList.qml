@@ -22,7 +22,7 @@ ListView {
     }
     function enterNote(makesOne: bool): bool {
         const row = currentItem as RecipientRow;
-        return row !== null && (makesOne || row.showsNote) && row.enterNote();
+        return row !== null && (makesOne || row.entry.showsNote) && row.enterNote();
     }
 
     readonly property int revision: recipients.revision

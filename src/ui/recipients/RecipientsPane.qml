@@ -22,9 +22,9 @@ ColumnLayout {
         Layout.fillWidth: true
         Layout.fillHeight: true
         visible: pane.model.showsNobody
-        icon: pane.model.emptyIcon
-        title: pane.model.emptyTitle
-        message: pane.model.emptyMessage
+        icon: pane.model.emptyState.icon
+        title: pane.model.emptyState.title
+        message: pane.model.emptyState.message
     }
     RecipientsList {
         Layout.fillWidth: true

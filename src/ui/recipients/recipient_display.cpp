@@ -7,6 +7,9 @@ using namespace Qt::StringLiterals;
 
 namespace velmora {
 
+namespace {
+
+// The person's name, or their company where they have no other name.
 QString displayName(const Recipient& recipient) {
     const bool nameless = recipient.name == "(no name)"_L1 && !recipient.company.isEmpty();
     return nameless ? recipient.company : recipient.name;
@@ -16,49 +19,36 @@ QString companyBesideName(const Recipient& recipient) {
     return recipient.company == displayName(recipient) ? QString() : recipient.company;
 }
 
-QString issueSymbol(const Recipient& recipient) {
+Remark issueOf(const Recipient& recipient) {
     if (!recipient.issue)
         return {};
-    return needsAttention(recipient.issue) ? u"exclamationmark.triangle.fill"_s : u"info.circle"_s;
-}
-
-QString issueSymbolColor(const Recipient& recipient) {
-    return needsAttention(recipient.issue) ? u"orange"_s : u"secondary"_s;
-}
-
-QString issueTextColor(const Recipient& recipient) {
-    return needsAttention(recipient.issue) ? u"primary"_s : u"secondary"_s;
+    if (needsAttention(recipient.issue)) {
+        return {.text = *recipient.issue,
+                .symbol = u"exclamationmark.triangle.fill"_s,
+                .textTone = Tone::primary,
+                .symbolTone = Tone::orange};
+    }
+    return {.text = *recipient.issue,
+            .symbol = u"info.circle"_s,
+            .textTone = Tone::secondary,
+            .symbolTone = Tone::secondary};
 }
 
 QString labelBesidePhone(const Recipient& recipient) {
     return recipient.phoneLabel == "mobile"_L1 ? QString() : recipient.phoneLabel;
 }
 
-QString threadText(const Recipient& recipient) {
-    if (recipient.thread)
-        return recipient.thread->service + u' ' + displayPhone(recipient.thread->line);
-    return recipient.usable ? u"No thread yet"_s : QString();
-}
-
-QString threadTextColor(const Recipient& recipient) {
-    return recipient.thread ? u"secondary"_s : u"tertiary"_s;
-}
-
-QString threadSymbol(const Recipient& recipient, const QString& senderNumber) {
-    if (!recipient.thread)
-        return {};
-    return isOnOtherLine(*recipient.thread, senderNumber) ? u"exclamationmark.circle.fill"_s
-                                                          : u"checkmark.circle.fill"_s;
-}
-
-QString threadSymbolColor(const Recipient& recipient, const QString& senderNumber) {
-    const bool other = recipient.thread && isOnOtherLine(*recipient.thread, senderNumber);
-    return other ? u"red"_s : u"green"_s;
-}
-
-double rowOpacity(const Recipient& recipient, bool checked) {
-    constexpr double faint = 0.72;
-    return checked || !recipient.usable ? 1 : faint;
+Remark threadOf(const Recipient& recipient, const QString& senderNumber) {
+    if (!recipient.thread) {
+        return {.text = recipient.usable ? u"No thread yet"_s : QString(),
+                .symbol = {},
+                .textTone = Tone::tertiary};
+    }
+    const bool other = isOnOtherLine(*recipient.thread, senderNumber);
+    return {.text = recipient.thread->service + u' ' + displayPhone(recipient.thread->line),
+            .symbol = other ? u"exclamationmark.circle.fill"_s : u"checkmark.circle.fill"_s,
+            .textTone = Tone::secondary,
+            .symbolTone = other ? Tone::red : Tone::green};
 }
 
 QString spokenRow(const Recipient& recipient, bool checked) {
@@ -74,6 +64,22 @@ QString spokenRow(const Recipient& recipient, bool checked) {
     if (recipient.issue)
         words.append(*recipient.issue);
     return words.join(u", "_s);
+}
+
+}  // namespace
+
+RecipientEntry entryOf(const Recipient& recipient, const QString& senderNumber, bool checked) {
+    return {.name = displayName(recipient),
+            .company = companyBesideName(recipient),
+            .sentText = recipient.alreadySent ? u"Sent"_s : QString(),
+            .issue = issueOf(recipient),
+            .phone = displayPhone(recipient.phone),
+            .phoneLabel = labelBesidePhone(recipient),
+            .thread = threadOf(recipient, senderNumber),
+            .checked = checked,
+            .checkName = u"Select "_s + recipient.name,
+            .faint = recipient.usable && !checked,
+            .spoken = spokenRow(recipient, checked)};
 }
 
 }  // namespace velmora

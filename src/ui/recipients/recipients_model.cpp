@@ -26,14 +26,13 @@ RecipientsModel::RecipientsModel(AppModel& model) : model_(model) {
     connect(&model_, &AppModel::editingNoteIDChanged, this, &RecipientsModel::followEditing);
     connect(&model_.runner(), &Runner::stateChanged, this, &RecipientsModel::followRun);
     connect(&model_, &AppModel::bootstrappedChanged, this, &RecipientsModel::contentChanged);
-    connect(&model_, &AppModel::recipientTextsChanged, this,
-            [this] { announceAll({previewRole, offersNoteRole}); });
+    connect(&model_, &AppModel::recipientTextsChanged, this, &RecipientsModel::announceAll);
     connect(&model_, &AppModel::recipientTextChanged, this, [this](qsizetype index) {
         const auto changed =
             std::ranges::find(rows_, keyOf(model_.recipients()[static_cast<size_t>(index)]));
         const int row = static_cast<int>(changed - rows_.begin());
         if (changed != rows_.end())
-            announce(row, row, {previewRole, noteRole, showsNoteRole, offersNoteRole});
+            announce(row, row);
     });
     followConfig();
     followEditing();
@@ -51,7 +50,7 @@ void RecipientsModel::followRecipients() {
         indexes_.insert(keyOf(each), index++);
     selection_ = model_.selection();
     followRows();
-    announceAll({});
+    announceAll();
 }
 
 void RecipientsModel::followFilter() {
@@ -78,7 +77,7 @@ void RecipientsModel::followRows() {
             endInsertRows();
         }
     }
-    announce(firstBlocked(), rowCount() - 1, {headingRole});
+    announce(firstBlocked(), rowCount() - 1);
     ++revision_;
     Q_EMIT contentChanged();
 }
@@ -108,7 +107,7 @@ void RecipientsModel::followSelection() {
         first = first < 0 ? row : first;
         last = row;
     }
-    announce(first, last, {checkedRole, rowOpacityRole, spokenRole});
+    announce(first, last);
     if (model_.selectedOnly)
         followRows();
 }
@@ -116,7 +115,7 @@ void RecipientsModel::followSelection() {
 void RecipientsModel::followConfig() {
     const QString before = std::exchange(senderNumber_, model_.config().senderNumber);
     if (before != senderNumber_)
-        announceAll({threadSymbolRole, threadSymbolColorRole});
+        announceAll();
 }
 
 void RecipientsModel::followRun() {
@@ -124,7 +123,7 @@ void RecipientsModel::followRun() {
     if (before == enabled_)
         return;
     Q_EMIT enabledChanged();
-    announceAll({checkableRole, offersNoteRole});
+    announceAll();
 }
 
 void RecipientsModel::followEditing() {
@@ -133,14 +132,14 @@ void RecipientsModel::followEditing() {
         const auto row = id ? std::ranges::find(rows_, *id) : rows_.end();
         if (row != rows_.end()) {
             const int changed = static_cast<int>(row - rows_.begin());
-            announce(changed, changed, {showsNoteRole, offersNoteRole});
+            announce(changed, changed);
         }
     }
 }
 
-void RecipientsModel::announce(int first, int last, const QList<int>& roles) {
+void RecipientsModel::announce(int first, int last) {
     if (first >= 0 && last >= first)
-        Q_EMIT dataChanged(index(first), index(last), roles);
+        Q_EMIT dataChanged(index(first), index(last), {entryRole});
 }
 
 // What stands around the rows.
@@ -173,23 +172,20 @@ bool RecipientsModel::showsNobody() const {
     return rows_.empty() && model_.bootstrapped;
 }
 
-QString RecipientsModel::emptyIcon() const {
-    if (model_.recipients().empty())
-        return u"person.crop.circle.badge.questionmark"_s;
-    return searchText().isEmpty() ? u"checkmark.circle"_s : u"magnifyingglass"_s;
-}
-
-QString RecipientsModel::emptyTitle() const {
-    if (model_.recipients().empty())
-        return u"Nobody in this list"_s;
-    return searchText().isEmpty() ? u"Nobody selected yet"_s : u"No matches"_s;
-}
-
-QString RecipientsModel::emptyMessage() const {
-    if (model_.recipients().empty())
-        return u"Add people to this group in Contacts, then choose Reload."_s;
-    return searchText().isEmpty() ? u"Switch to All and check the people you want to text."_s
-                                  : u"Nobody in this list matches your search."_s;
+EmptyStateContent RecipientsModel::emptyState() const {
+    if (model_.recipients().empty()) {
+        return {.icon = u"person.crop.circle.badge.questionmark"_s,
+                .title = u"Nobody in this list"_s,
+                .message = u"Add people to this group in Contacts, then choose Reload."_s};
+    }
+    if (!searchText().isEmpty()) {
+        return {.icon = u"magnifyingglass"_s,
+                .title = u"No matches"_s,
+                .message = u"Nobody in this list matches your search."_s};
+    }
+    return {.icon = u"checkmark.circle"_s,
+            .title = u"Nobody selected yet"_s,
+            .message = u"Switch to All and check the people you want to text."_s};
 }
 
 void RecipientsModel::setTopRow(int row) {

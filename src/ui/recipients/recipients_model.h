@@ -7,12 +7,14 @@
 #include <vector>
 
 #include "app/app_model.h"
+#include "ui/controls/empty_state_content.h"
+#include "ui/recipients/recipient_entry.h"
 
 namespace velmora {
 
 /// The rows of the recipient list, those who can be texted first, and what stands around them:
 /// search, filter and the empty states. It keeps which rows the view knows, so that each change
-/// touches only the rows and roles that it changes.
+/// touches only the rows that it changes.
 class RecipientsModel final : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -23,38 +25,13 @@ class RecipientsModel final : public QAbstractListModel {
     Q_PROPERTY(QString selectTitle READ selectTitle NOTIFY filterChanged)
     Q_PROPERTY(QString clearTitle READ clearTitle NOTIFY filterChanged)
     Q_PROPERTY(bool showsNobody READ showsNobody NOTIFY contentChanged)
-    Q_PROPERTY(QString emptyIcon READ emptyIcon NOTIFY contentChanged)
-    Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY contentChanged)
-    Q_PROPERTY(QString emptyMessage READ emptyMessage NOTIFY contentChanged)
+    Q_PROPERTY(velmora::EmptyStateContent emptyState READ emptyState NOTIFY contentChanged)
     Q_PROPERTY(int revision READ revision NOTIFY contentChanged)
     Q_PROPERTY(int topRow READ topRow WRITE setTopRow NOTIFY topRowChanged)
 
   public:
-    /// What a row shows. Colours are names of the theme's colours; what is empty is not shown.
     enum Role {
-        nameRole = Qt::UserRole,  ///< `name`
-        companyRole,              ///< `company`
-        sentTextRole,             ///< `sentText`: "Sent" under the current run name
-        issueTextRole,            ///< `issueText`
-        issueTextColorRole,       ///< `issueTextColor`
-        issueSymbolRole,          ///< `issueSymbol`
-        issueSymbolColorRole,     ///< `issueSymbolColor`
-        previewRole,              ///< `preview`: the text they will receive
-        noteRole,                 ///< `note`: their personal note
-        showsNoteRole,            ///< `showsNote`: whether the note's field shows
-        offersNoteRole,           ///< `offersNote`: whether "Add note" shows
-        phoneRole,                ///< `phone`
-        phoneLabelRole,           ///< `phoneLabel`
-        threadTextRole,           ///< `threadText`
-        threadTextColorRole,      ///< `threadTextColor`
-        threadSymbolRole,         ///< `threadSymbol`
-        threadSymbolColorRole,    ///< `threadSymbolColor`
-        checkedRole,              ///< `checked`
-        checkableRole,            ///< `checkable`: whether the check box can be used
-        checkNameRole,            ///< `checkName`: the check box in words
-        rowOpacityRole,           ///< `rowOpacity`
-        spokenRole,               ///< `spoken`: the row in words
-        headingRole               ///< `heading` above the first of those who can't be texted
+        entryRole = Qt::UserRole  ///< `entry`: a `RecipientEntry`, all that the row shows
     };
 
     explicit RecipientsModel(AppModel& model);
@@ -73,9 +50,7 @@ class RecipientsModel final : public QAbstractListModel {
 
     /// Whether the empty state below is shown: the list has been read, and nobody is left to show.
     [[nodiscard]] bool showsNobody() const;
-    [[nodiscard]] QString emptyIcon() const;
-    [[nodiscard]] QString emptyTitle() const;
-    [[nodiscard]] QString emptyMessage() const;
+    [[nodiscard]] EmptyStateContent emptyState() const;
 
     /// Another number each time when other people may be shown.
     [[nodiscard]] int revision() const { return revision_; }
@@ -106,10 +81,9 @@ class RecipientsModel final : public QAbstractListModel {
 
   private:
     [[nodiscard]] const Recipient* recipientAt(int row) const;
+    [[nodiscard]] RecipientEntry entryAt(int row) const;
     [[nodiscard]] int firstBlocked() const;
     [[nodiscard]] QString heading(int row) const;
-    [[nodiscard]] QVariant noteData(const Recipient& recipient, int role) const;
-    [[nodiscard]] QVariant stateData(const Recipient& recipient, int role) const;
     [[nodiscard]] bool isChecked(const Recipient& recipient) const;
     [[nodiscard]] bool isCheckable(const Recipient& recipient) const;
     [[nodiscard]] bool isFiltered() const;
@@ -122,8 +96,8 @@ class RecipientsModel final : public QAbstractListModel {
     void followConfig();
     void followRun();
     void followEditing();
-    void announce(int first, int last, const QList<int>& roles);
-    void announceAll(const QList<int>& roles) { announce(0, rowCount() - 1, roles); }
+    void announce(int first, int last);
+    void announceAll() { announce(0, rowCount() - 1); }
 
     AppModel& model_;
     QHash<QString, qsizetype> indexes_;  // into the model's recipients, by key

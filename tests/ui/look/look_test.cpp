@@ -9,12 +9,14 @@
 #include <cmath>
 #include <memory>
 #include <numeric>
+#include <utility>
 #include <vector>
 
 #include "ui/first_run/full_disk_access_timeline.h"
 #include "ui/look/drawn_look.h"
 #include "ui/look/fixed_digits.h"
 #include "ui/look/symbol_image_provider.h"
+#include "ui/look/tone.h"
 
 using namespace Qt::StringLiterals;
 
@@ -123,13 +125,18 @@ TEST(Theme, TextStandsOutOnEverything) {
     component.setData("import QtQml\nimport Velmora\nQtObject { property var theme: Theme }", {});
     const std::unique_ptr<QObject> holder(component.create());
     ASSERT_TRUE(holder) << component.errorString().toStdString();
-    const QObject* theme = holder->property("theme").value<QObject*>();
-    const auto color = [theme](const std::string& name) {
-        return theme->property(name.c_str()).value<QColor>();
+    QObject* theme = holder->property("theme").value<QObject*>();
+    const auto color = [theme](const char* name) { return theme->property(name).value<QColor>(); };
+    const double faintOpacity = theme->property("faintOpacity").toDouble();
+    const auto toned = [theme](Tone tone, bool faint) {
+        QColor ink;
+        QMetaObject::invokeMethod(theme, "colorOf", Q_RETURN_ARG(QColor, ink),
+                                  Q_ARG(int, std::to_underlying(tone)), Q_ARG(bool, faint));
+        return ink;
     };
-    const auto expectContrast = [&](const std::string& text, const QColor& ground, double opacity) {
-        EXPECT_GE(contrast(over(ground, color(text), opacity), ground), 4.5)
-            << text << " on " << ground.name().toStdString() << ", dark "
+    const auto expectContrast = [&](const QColor& text, const QColor& ground, double opacity) {
+        EXPECT_GE(contrast(over(ground, text, opacity), ground), 4.5)
+            << text.name().toStdString() << " on " << ground.name().toStdString() << ", dark "
             << theme->property("dark").toBool();
     };
     const QPalette before = QGuiApplication::palette();
@@ -143,20 +150,21 @@ TEST(Theme, TextStandsOutOnEverything) {
         const QColor window = color("windowBackground");
         const QColor focused = over(window, color("quaternary"), color("quaternary").alphaF());
         for (const QColor& ground : {window, focused}) {
-            for (const char* ink : {"primary", "secondary", "tertiary", "accentText", "green"}) {
-                expectContrast(ink, ground, 1);
-                expectContrast(std::string(ink) + "Faint", ground, 0.72);
+            for (const Tone tone :
+                 {Tone::primary, Tone::secondary, Tone::tertiary, Tone::accent, Tone::green}) {
+                expectContrast(toned(tone, false), ground, 1);
+                expectContrast(toned(tone, true), ground, faintOpacity);
             }
         }
         for (const char* ground : {"sidebarBackground", "sheetBackground", "groupBackground",
                                    "textBackground", "menuBackground"})
             for (const char* ink : {"primary", "secondary"})
-                expectContrast(ink, color(ground), 1);
+                expectContrast(color(ink), color(ground), 1);
         for (const char* ground : {"controlBackground", "controlHover", "controlPressed"})
             for (const char* ink : {"primary", "destructive"})
-                expectContrast(ink, color(ground), 1);
+                expectContrast(color(ink), color(ground), 1);
         for (const char* ground : {"accent", "accentHover", "accentPressed"})
-            expectContrast("overAccent", color(ground), 1);
+            expectContrast(color("overAccent"), color(ground), 1);
     }
     QGuiApplication::setPalette(before);
 }
