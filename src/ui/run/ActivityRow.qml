@@ -9,11 +9,7 @@ Item {
     property bool current: false
 
     required property int index
-    required property string name
-    required property string symbol
-    required property string symbolColor
-    required property string details
-    required property string clockTime
+    required property activityEntry entry
 
     implicitHeight: words.height + 12
     // The list hides a spare row from the eye alone, not from a screen reader.
@@ -21,7 +17,7 @@ Item {
     ListView.onReused: visible = true
     Accessible.role: Accessible.ListItem
     Accessible.focused: current
-    Accessible.name: name + ", " + details + ", " + clockTime
+    Accessible.name: entry.name + ", " + entry.details + ", " + entry.clockTime
 
     MouseArea {
         anchors.fill: parent
@@ -44,9 +40,9 @@ Item {
         id: icon
         x: 10
         y: 6
-        name: row.symbol
+        name: row.entry.symbol
         size: 15
-        color: Theme[row.symbolColor]
+        color: Theme.colorOf(row.entry.tone, false)
     }
     Column {
         id: words
@@ -57,13 +53,13 @@ Item {
 
         BodyText {
             width: time.x - words.x - 8
-            text: row.name
+            text: row.entry.name
             Accessible.ignored: true
         }
         BodyText {
             width: parent.width
             visible: text.length > 0
-            text: row.details
+            text: row.entry.details
             Accessible.ignored: true
             color: Theme.secondary
             font.pixelSize: Theme.caption
@@ -73,7 +69,7 @@ Item {
         id: time
         x: row.width - width - 10
         y: 8
-        text: row.clockTime
+        text: row.entry.clockTime
         Accessible.ignored: true
         color: Theme.secondary
         pixelSize: Theme.caption

@@ -17,31 +17,14 @@ int ActivityModel::rowCount(const QModelIndex& parent) const {
 
 QVariant ActivityModel::data(const QModelIndex& index, int role) const {
     const qsizetype place = count_ - 1 - index.row();
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || place >= std::ssize(runner_.log()))
+    if (role != entryRole || !checkIndex(index, CheckIndexOption::IndexIsValid) ||
+        place >= std::ssize(runner_.log()))
         return {};
-    const LogEntry& entry = runner_.log()[static_cast<size_t>(place)];
-    switch (role) {
-        case nameRole:
-            return entry.name;
-        case symbolRole:
-            return statusSymbol(entry.status);
-        case symbolColorRole:
-            return statusColor(entry.status);
-        case detailsRole:
-            return entryDetails(entry);
-        case clockTimeRole:
-            return clockTime(entry);
-        default:
-            return {};
-    }
+    return QVariant::fromValue(activityEntry(runner_.log()[static_cast<size_t>(place)]));
 }
 
 QHash<int, QByteArray> ActivityModel::roleNames() const {
-    return {{nameRole, "name"},
-            {symbolRole, "symbol"},
-            {symbolColorRole, "symbolColor"},
-            {detailsRole, "details"},
-            {clockTimeRole, "clockTime"}};
+    return {{entryRole, "entry"}};
 }
 
 void ActivityModel::followReplaced() {

@@ -15,11 +15,7 @@ class ActivityModel final : public QAbstractListModel {
 
   public:
     enum Role {
-        nameRole = Qt::UserRole,  ///< `name`: whom the text was for
-        symbolRole,               ///< `symbol` of the status
-        symbolColorRole,          ///< `symbolColor`: its colour's name in the theme
-        detailsRole,              ///< `details`: status, service and detail in words
-        clockTimeRole             ///< `clockTime` of the send
+        entryRole = Qt::UserRole  ///< `entry`: an `ActivityEntry`
     };
 
     /// `runner` outlives it.

@@ -62,24 +62,21 @@ QString messageHint(const QString& message) {
                                       : u"Insert adds a first name, a note, or another version."_s;
 }
 
-QString statusSymbol(const QString& status) {
-    if (status == statusSent)
-        return u"checkmark.circle.fill"_s;
-    return status == statusFailed ? u"xmark.octagon.fill"_s : u"exclamationmark.triangle.fill"_s;
-}
-
-QString statusColor(const QString& status) {
-    if (status == statusSent)
-        return u"green"_s;
-    return status == statusFailed ? u"red"_s : u"orange"_s;
-}
-
-QString entryDetails(const LogEntry& entry) {
-    return joined({QString(entry.status).replace(u'_', u' '), entry.service, entry.detail});
-}
-
-QString clockTime(const LogEntry& entry) {
-    return QLocale().toString(localTime(entry.time).time(), QLocale::ShortFormat);
+ActivityEntry activityEntry(const LogEntry& entry) {
+    ActivityEntry shown{
+        .name = entry.name,
+        .symbol = u"exclamationmark.triangle.fill"_s,
+        .tone = Tone::orange,
+        .details = joined({QString(entry.status).replace(u'_', u' '), entry.service, entry.detail}),
+        .clockTime = QLocale().toString(localTime(entry.time).time(), QLocale::ShortFormat)};
+    if (entry.status == statusSent) {
+        shown.symbol = u"checkmark.circle.fill"_s;
+        shown.tone = Tone::green;
+    } else if (entry.status == statusFailed) {
+        shown.symbol = u"xmark.octagon.fill"_s;
+        shown.tone = Tone::red;
+    }
+    return shown;
 }
 
 }  // namespace velmora

@@ -1,11 +1,34 @@
 #pragma once
 
+#include <QObject>
 #include <QString>
+#include <QtQmlIntegration>
 
 #include "sending/runner.h"
 #include "storage/app_config.h"
+#include "ui/look/tone.h"
 
 namespace velmora {
+
+/// What a row of the activity shows of one text.
+struct ActivityEntry {
+    Q_GADGET
+    QML_VALUE_TYPE(activityEntry)
+    Q_PROPERTY(QString name MEMBER name)
+    Q_PROPERTY(QString symbol MEMBER symbol)
+    Q_PROPERTY(velmora::look::Tone tone MEMBER tone)
+    Q_PROPERTY(QString details MEMBER details)
+    Q_PROPERTY(QString clockTime MEMBER clockTime)
+
+  public:
+    QString name;    ///< whom it was for
+    QString symbol;  ///< of its status
+    Tone tone = Tone::primary;
+    QString details;    ///< status, service and detail in words, as far as there are any
+    QString clockTime;  ///< on a clock in the user's place and language
+
+    friend bool operator==(const ActivityEntry&, const ActivityEntry&) = default;
+};
 
 // What the views say of a run, before, while and after it goes. Pure functions.
 
@@ -27,14 +50,7 @@ namespace velmora {
 /// "Insert" menu brings.
 [[nodiscard]] QString messageHint(const QString& message);
 
-/// The symbol of a log entry's status, and the name of its colour in the theme.
-[[nodiscard]] QString statusSymbol(const QString& status);
-[[nodiscard]] QString statusColor(const QString& status);
-
-/// The log entry's status in words, its service and its detail, as far as there are any.
-[[nodiscard]] QString entryDetails(const LogEntry& entry);
-
-/// The entry's time on a clock in the user's place and language.
-[[nodiscard]] QString clockTime(const LogEntry& entry);
+/// One line of the send log.
+[[nodiscard]] ActivityEntry activityEntry(const LogEntry& entry);
 
 }  // namespace velmora

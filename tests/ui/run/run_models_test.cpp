@@ -28,9 +28,11 @@ TEST_F(RunModels, TheNewestLineComesFirstAndTheOthersStay) {
     model->startRun();
     ASSERT_TRUE(world.clock.runUntilIdle());
     QStringList lines;
-    for (int row = 0; row < activity.rowCount(); ++row)
-        lines.append(activity.index(row).data(ActivityModel::nameRole).toString() + u' ' +
-                     activity.index(row).data(ActivityModel::symbolColorRole).toString());
+    for (int row = 0; row < activity.rowCount(); ++row) {
+        const auto entry =
+            activity.index(row).data(ActivityModel::entryRole).value<ActivityEntry>();
+        lines.append(entry.name + u' ' + QVariant::fromValue(entry.tone).toString());
+    }
     EXPECT_EQ(lines, (QStringList{u"Joanne green"_s, u"Bob Stone red"_s, u"Ann Lee green"_s}));
     EXPECT_EQ(inserts.size(), 3);
     model->loadList();
@@ -42,16 +44,17 @@ TEST(RunDisplay, AnEntryShowsItsStatusDetailsAndTime) {
     LogEntry entry;
     entry.time = Moment{763657200.0};
     entry.status = u"sent_unverified"_s;
-    EXPECT_EQ(statusColor(entry.status), u"orange"_s);
     entry.service = u"SMS"_s;
     entry.detail = u"Check the thread."_s;
-    EXPECT_EQ(entryDetails(entry), u"sent unverified \u00B7 SMS \u00B7 Check the thread."_s);
-    entry.status.clear();
-    EXPECT_EQ(entryDetails(entry), u"SMS \u00B7 Check the thread."_s);
     const QLocale before;
     QLocale::setDefault(QLocale(u"en_US"_s));
-    EXPECT_EQ(clockTime(entry).simplified(), u"11:00 AM"_s);
+    const ActivityEntry shown = activityEntry(entry);
     QLocale::setDefault(before);
+    EXPECT_EQ(shown.tone, Tone::orange);
+    EXPECT_EQ(shown.details, u"sent unverified \u00B7 SMS \u00B7 Check the thread."_s);
+    EXPECT_EQ(shown.clockTime.simplified(), u"11:00 AM"_s);
+    entry.status.clear();
+    EXPECT_EQ(activityEntry(entry).details, u"SMS \u00B7 Check the thread."_s);
 }
 
 // Catches rounding instead of cutting, and a delay that no whole number can hold.
