@@ -9,13 +9,13 @@ Item {
 
     required property MainWindowModel model
 
-    readonly property bool aboutNumber: model.banner === MainWindowModel.Banner.sendingNumber
-    readonly property color tint: Theme[model.bannerColor]
+    readonly property banner banner: model.banner
+    readonly property color tint: Theme.colorOf(banner.tone, false)
 
-    visible: model.banner !== MainWindowModel.Banner.none
+    visible: banner.text.length > 0
     implicitHeight: visible ? strip.implicitHeight + 2 * 8 + 1 : 0
     Accessible.role: Accessible.AlertMessage
-    Accessible.name: banners.model.bannerText
+    Accessible.name: banner.text
 
     Rectangle {
         anchors.fill: parent
@@ -26,21 +26,21 @@ Item {
         x: Theme.padding
         y: 8
         width: parent.width - 2 * Theme.padding
-        spacing: banners.aboutNumber ? 10 : 12
+        spacing: banners.banner.tone === Look.Tone.red ? 12 : 10
 
         SymbolIcon {
-            name: banners.model.bannerSymbol
+            name: banners.banner.symbol
             color: banners.tint
         }
         BodyText {
             Layout.fillWidth: true
-            text: banners.model.bannerText
+            text: banners.banner.text
             font.pixelSize: Theme.callout
             Accessible.ignored: true
         }
         PushButton {
             controlSize: PushButton.Small
-            text: banners.model.bannerButton
+            text: banners.banner.button
             onClicked: banners.model.followBanner()
         }
     }

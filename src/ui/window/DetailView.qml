@@ -18,10 +18,10 @@ ColumnLayout {
         Layout.fillWidth: true
         Layout.fillHeight: true
         visible: !detail.presentation.window.showsList
-        icon: detail.presentation.window.emptyIcon
-        title: detail.presentation.window.emptyTitle
-        message: detail.presentation.window.emptyMessage
-        button: detail.presentation.window.emptyButton
+        icon: detail.presentation.window.emptyState.icon
+        title: detail.presentation.window.emptyState.title
+        message: detail.presentation.window.emptyState.message
+        button: detail.presentation.window.emptyState.button
         onActivated: detail.presentation.window.openContactsSettings()
     }
     RecipientsPane {

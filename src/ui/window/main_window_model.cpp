@@ -4,31 +4,6 @@ using namespace Qt::StringLiterals;
 
 namespace velmora {
 
-namespace {
-
-struct EmptyStateContent {
-    QString icon;
-    QString title;
-    QString message;
-    QString button;
-};
-
-EmptyStateContent emptyStateContent(const AppModel& model) {
-    if (!model.contactsAllowed) {
-        return {.icon = u"person.crop.circle.badge.exclamationmark"_s,
-                .title = u"Velmora can't read your Contacts"_s,
-                .message = u"Allow Contacts in System Settings, then reopen the app."_s,
-                .button = u"Open System Settings"_s};
-    }
-    return {.icon = u"sidebar.left"_s,
-            .title = u"Choose a list"_s,
-            .message =
-                u"Pick a Contacts group, or All Contacts to choose anyone with a phone number."_s,
-            .button = {}};
-}
-
-}  // namespace
-
 MainWindowModel::MainWindowModel(AppModel& model)
     : model_(model), alertText_(model.alert.value().value_or(QString())) {
     const auto announce = [this](auto signal) {
@@ -70,57 +45,55 @@ bool MainWindowModel::showsList() const {
     return model_.contactsAllowed && model_.config().selectedGroupID.has_value();
 }
 
-QString MainWindowModel::emptyIcon() const {
-    return emptyStateContent(model_).icon;
-}
-
-QString MainWindowModel::emptyTitle() const {
-    return emptyStateContent(model_).title;
-}
-
-QString MainWindowModel::emptyMessage() const {
-    return emptyStateContent(model_).message;
-}
-
-QString MainWindowModel::emptyButton() const {
-    return emptyStateContent(model_).button;
+EmptyStateContent MainWindowModel::emptyState() const {
+    if (!model_.contactsAllowed) {
+        return {.icon = u"person.crop.circle.badge.exclamationmark"_s,
+                .title = u"Velmora can't read your Contacts"_s,
+                .message = u"Allow Contacts in System Settings, then reopen the app."_s,
+                .button = u"Open System Settings"_s};
+    }
+    return {.icon = u"sidebar.left"_s,
+            .title = u"Choose a list"_s,
+            .message =
+                u"Pick a Contacts group, or All Contacts to choose anyone with a phone number."_s};
 }
 
 void MainWindowModel::openContactsSettings() {
     model_.openContactsSettings();
 }
 
-MainWindowModel::Banner MainWindowModel::banner() const {
+MainWindowModel::Todo MainWindowModel::todo() const {
     if (!model_.contactsAllowed)
-        return Banner::none;
+        return Todo::none;
     if (!model_.dbOK)
-        return Banner::fullDiskAccess;
-    return model_.config().senderNumber.isEmpty() ? Banner::sendingNumber : Banner::none;
+        return Todo::fullDiskAccess;
+    return model_.config().senderNumber.isEmpty() ? Todo::sendingNumber : Todo::none;
 }
 
-QString MainWindowModel::bannerSymbol() const {
-    return banner() == Banner::fullDiskAccess ? u"lock.trianglebadge.exclamationmark"_s
-                                              : u"iphone"_s;
-}
-
-QString MainWindowModel::bannerColor() const {
-    return banner() == Banner::fullDiskAccess ? u"red"_s : u"orange"_s;
-}
-
-QString MainWindowModel::bannerText() const {
-    return banner() == Banner::fullDiskAccess
-               ? u"Velmora needs Full Disk Access to check which line each text goes out on."_s
-               : u"Choose the number you send from."_s;
-}
-
-QString MainWindowModel::bannerButton() const {
-    return banner() == Banner::fullDiskAccess ? u"Show Me How"_s : u"Open Settings"_s;
+Banner MainWindowModel::banner() const {
+    switch (todo()) {
+        case Todo::fullDiskAccess:
+            return {
+                .symbol = u"lock.trianglebadge.exclamationmark"_s,
+                .tone = Tone::red,
+                .text =
+                    u"Velmora needs Full Disk Access to check which line each text goes out on."_s,
+                .button = u"Show Me How"_s};
+        case Todo::sendingNumber:
+            return {.symbol = u"iphone"_s,
+                    .tone = Tone::orange,
+                    .text = u"Choose the number you send from."_s,
+                    .button = u"Open Settings"_s};
+        case Todo::none:
+            break;
+    }
+    return {};
 }
 
 void MainWindowModel::followBanner() {
-    if (banner() == Banner::fullDiskAccess)
+    if (todo() == Todo::fullDiskAccess)
         model_.showingFDAHelp = true;
-    else if (banner() == Banner::sendingNumber)
+    else if (todo() == Todo::sendingNumber)
         model_.openSettings();
 }
 

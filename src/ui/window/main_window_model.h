@@ -8,8 +8,28 @@
 #include <optional>
 
 #include "app/app_model.h"
+#include "ui/controls/empty_state_content.h"
+#include "ui/look/tone.h"
 
 namespace velmora {
+
+/// The strip that names what the user still has to do. Without a text there is none.
+struct Banner {
+    Q_GADGET
+    QML_VALUE_TYPE(banner)
+    Q_PROPERTY(QString symbol MEMBER symbol)
+    Q_PROPERTY(velmora::look::Tone tone MEMBER tone)
+    Q_PROPERTY(QString text MEMBER text)
+    Q_PROPERTY(QString button MEMBER button)
+
+  public:
+    QString symbol;
+    Tone tone = Tone::primary;
+    QString text;
+    QString button;
+
+    friend bool operator==(const Banner&, const Banner&) = default;
+};
 
 /// What the main window shows around its panes: title, banner, middle column, alert and sheet. All
 /// of it is read from the application model at each look.
@@ -21,15 +41,8 @@ class MainWindowModel final : public QObject {
     Q_PROPERTY(QString title READ title NOTIFY changed)
     Q_PROPERTY(QString subtitle READ subtitle NOTIFY changed)
     Q_PROPERTY(bool showsList READ showsList NOTIFY changed)
-    Q_PROPERTY(QString emptyIcon READ emptyIcon NOTIFY changed)
-    Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY changed)
-    Q_PROPERTY(QString emptyMessage READ emptyMessage NOTIFY changed)
-    Q_PROPERTY(QString emptyButton READ emptyButton NOTIFY changed)
-    Q_PROPERTY(Banner banner READ banner NOTIFY changed)
-    Q_PROPERTY(QString bannerSymbol READ bannerSymbol NOTIFY changed)
-    Q_PROPERTY(QString bannerColor READ bannerColor NOTIFY changed)
-    Q_PROPERTY(QString bannerText READ bannerText NOTIFY changed)
-    Q_PROPERTY(QString bannerButton READ bannerButton NOTIFY changed)
+    Q_PROPERTY(velmora::EmptyStateContent emptyState READ emptyState NOTIFY changed)
+    Q_PROPERTY(velmora::Banner banner READ banner NOTIFY changed)
     Q_PROPERTY(bool alertShown READ alertShown NOTIFY changed)
     Q_PROPERTY(QString alertText READ alertText NOTIFY changed)
     Q_PROPERTY(Sheet sheet READ sheet NOTIFY changed)
@@ -38,9 +51,6 @@ class MainWindowModel final : public QObject {
     Q_PROPERTY(bool paused READ paused NOTIFY changed)
 
   public:
-    enum class Banner { none, fullDiskAccess, sendingNumber };
-    Q_ENUM(Banner)
-
     /// The sheets that can cover the window; at most one at a time.
     enum class Sheet { none, terms, confirm, fullDiskAccessHelp, senderSetup };
     Q_ENUM(Sheet)
@@ -54,19 +64,10 @@ class MainWindowModel final : public QObject {
 
     /// Whether the middle column shows the chosen list; else it shows the empty state below.
     [[nodiscard]] bool showsList() const;
-    [[nodiscard]] QString emptyIcon() const;
-    [[nodiscard]] QString emptyTitle() const;
-    [[nodiscard]] QString emptyMessage() const;
-    /// Empty where there is nothing to do.
-    [[nodiscard]] QString emptyButton() const;
+    [[nodiscard]] EmptyStateContent emptyState() const;
     Q_INVOKABLE void openContactsSettings();
 
     [[nodiscard]] Banner banner() const;
-    [[nodiscard]] QString bannerSymbol() const;
-    /// The strip's colour by its name in the theme.
-    [[nodiscard]] QString bannerColor() const;
-    [[nodiscard]] QString bannerText() const;
-    [[nodiscard]] QString bannerButton() const;
     /// Does what the banner's button says.
     Q_INVOKABLE void followBanner();
 
@@ -98,6 +99,9 @@ class MainWindowModel final : public QObject {
     void settingsRequested();
 
   private:
+    enum class Todo { none, fullDiskAccess, sendingNumber };
+
+    [[nodiscard]] Todo todo() const;
     void followAlert();
 
     AppModel& model_;
