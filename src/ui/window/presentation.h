@@ -5,7 +5,6 @@
 
 #include "app/app_model.h"
 #include "ui/compose/compose_model.h"
-#include "ui/first_run/first_run_model.h"
 #include "ui/menus/menu_commands.h"
 #include "ui/recipients/recipients_model.h"
 #include "ui/run/activity_model.h"
@@ -29,7 +28,6 @@ class Presentation final : public QObject {
     Q_PROPERTY(velmora::ActivityModel* activity READ activity CONSTANT)
     Q_PROPERTY(velmora::ConfirmModel* confirm READ confirm CONSTANT)
     Q_PROPERTY(velmora::SettingsModel* settings READ settings CONSTANT)
-    Q_PROPERTY(velmora::FirstRunModel* firstRun READ firstRun CONSTANT)
 
   public:
     /// `model` outlives it.
@@ -43,7 +41,6 @@ class Presentation final : public QObject {
     [[nodiscard]] ActivityModel* activity() { return &activity_; }
     [[nodiscard]] ConfirmModel* confirm() { return &confirm_; }
     [[nodiscard]] SettingsModel* settings() { return &settings_; }
-    [[nodiscard]] FirstRunModel* firstRun() { return &firstRun_; }
 
   private:
     MainWindowModel window_;
@@ -54,7 +51,6 @@ class Presentation final : public QObject {
     ActivityModel activity_;
     ConfirmModel confirm_;
     SettingsModel settings_;
-    FirstRunModel firstRun_;
 };
 
 }  // namespace velmora
