@@ -23,10 +23,6 @@ namespace velmora {
 /// does not fit into 64 bits is written with its decimals or exponent, or as "inf" or "nan".
 [[nodiscard]] QString paceLine(const AppConfig& config);
 
-/// The note under the message: who gets which version once there are several, before that what the
-/// "Insert" menu brings.
-[[nodiscard]] QString messageHint(const QString& message);
-
 /// The symbol of a log entry's status, and the name of its colour in the theme.
 [[nodiscard]] QString statusSymbol(const QString& status);
 [[nodiscard]] QString statusColor(const QString& status);

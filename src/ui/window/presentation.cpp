@@ -8,6 +8,7 @@ Presentation::Presentation(AppModel& model)
       sidebar_(model),
       recipients_(model),
       compose_(model),
+      run_(model),
       activity_(model.runner()),
       confirm_(model),
       settings_(model),
