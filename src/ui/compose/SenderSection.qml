@@ -10,12 +10,7 @@ ColumnLayout {
 
     spacing: 8
 
-    BodyText {
-        text: "Send from"
-        font.pixelSize: Theme.headline
-        font.weight: Font.DemiBold
-        Accessible.role: Accessible.Heading
-    }
+    SectionHeading { text: "Send from" }
     MenuButton {
         Layout.fillWidth: true
         enabled: !section.model.locked

@@ -66,7 +66,7 @@ MenuOpener {
             id: arrows
             implicitWidth: 16
             implicitHeight: 16
-            radius: 4
+            radius: Theme.tinyRadius
             color: picker.enabled ? Theme.accent : Theme.quaternary
 
             SymbolIcon {

@@ -10,8 +10,8 @@ RowLayout {
 
     Layout.fillWidth: true
     Layout.fillHeight: false
-    Layout.leftMargin: 10
-    Layout.rightMargin: 10
+    Layout.leftMargin: Theme.formMargin
+    Layout.rightMargin: Theme.formMargin
     Layout.minimumHeight: 40
     spacing: 8
 

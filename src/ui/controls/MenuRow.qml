@@ -44,7 +44,7 @@ Item {
     Rectangle {
         width: row.fullWidth
         height: row.height
-        radius: 5
+        radius: Theme.smallRadius
         color: row.highlighted ? Theme.accent : "transparent"
 
         HoverHandler {

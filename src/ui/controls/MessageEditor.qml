@@ -39,12 +39,12 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
-        radius: 8
+        radius: Theme.boxRadius
         color: Theme.textBackground
         border.color: Theme.controlBorder
 
         FocusRing {
-            cornerRadius: 8
+            cornerRadius: Theme.boxRadius
             shown: area.activeFocus
         }
     }

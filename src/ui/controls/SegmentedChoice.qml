@@ -17,7 +17,7 @@ Item {
     implicitWidth: 64 * options.length
     implicitHeight: small ? Theme.smallControlHeight + 2 : Theme.controlHeight
     activeFocusOnTab: true
-    opacity: enabled ? 1 : 0.45
+    opacity: enabled ? 1 : Theme.disabledOpacity
     Accessible.role: Accessible.Grouping
     Accessible.name: accessibleName
     Accessible.description: options[currentIndex] + ". "
@@ -54,7 +54,7 @@ Item {
             x: choice.currentIndex * track.segmentWidth
             width: track.segmentWidth
             height: parent.height
-            radius: Theme.radius - 1
+            radius: Theme.smallRadius
             color: Theme.segment
             border.color: Theme.segmentEdge
 

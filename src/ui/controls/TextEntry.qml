@@ -26,7 +26,7 @@ T.TextField {
     selectByMouse: true
     font.family: Theme.fontFamily
     font.pixelSize: small ? Theme.caption : Theme.body
-    opacity: enabled || plain ? 1 : 0.45
+    opacity: enabled || plain ? 1 : Theme.disabledOpacity
     Accessible.name: accessibleName
     Accessible.description: enabled ? "" : Theme.unavailable
     onTextEdited: field.edited(field.text)
@@ -54,12 +54,12 @@ T.TextField {
 
     background: Rectangle {
         visible: !field.plain
-        radius: Theme.radius - 1
+        radius: Theme.smallRadius
         color: Theme.textBackground
         border.color: Theme.controlBorder
 
         FocusRing {
-            cornerRadius: Theme.radius - 1
+            cornerRadius: Theme.smallRadius
             shown: field.activeFocus
         }
     }

@@ -60,13 +60,11 @@ Item {
             text: row.name
             Accessible.ignored: true
         }
-        BodyText {
+        CaptionText {
             width: parent.width
             visible: text.length > 0
             text: row.details
             Accessible.ignored: true
-            color: Theme.secondary
-            font.pixelSize: Theme.caption
         }
     }
     FixedDigitsText {

@@ -13,23 +13,20 @@ ColumnLayout {
     implicitHeight: 120 + heading.implicitHeight + spacing
     spacing: 8
 
-    BodyText {
+    SectionHeading {
         id: heading
         text: "Activity"
-        font.pixelSize: Theme.headline
-        font.weight: Font.DemiBold
-        Accessible.role: Accessible.Heading
     }
     Rectangle {
         Layout.fillWidth: true
         Layout.fillHeight: true
         Layout.minimumHeight: 120
-        radius: 8
+        radius: Theme.boxRadius
         color: Theme.textBackground
         border.color: Theme.separator
 
         FocusRing {
-            cornerRadius: 8
+            cornerRadius: Theme.boxRadius
             shown: list.activeFocus
         }
 

@@ -13,10 +13,8 @@ ColumnLayout {
     readonly property bool paused: model.stage === RunModel.Stage.paused
     readonly property bool going: model.stage === RunModel.Stage.running || paused
 
-    component StatusLine: BodyText {
+    component StatusLine: CaptionText {
         text: section.model.status
-        color: Theme.secondary
-        font.pixelSize: Theme.caption
     }
 
     spacing: 10

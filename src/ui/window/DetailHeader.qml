@@ -27,12 +27,10 @@ Item {
             elide: Text.ElideRight
             Accessible.role: Accessible.Heading
         }
-        BodyText {
+        CaptionText {
             width: parent.width
             visible: text.length > 0
             text: header.subtitle
-            color: Theme.secondary
-            font.pixelSize: Theme.caption
             wrapMode: Text.NoWrap
             elide: Text.ElideRight
         }
