@@ -54,12 +54,10 @@ MenuOpener {
         anchors.rightMargin: 5
         spacing: 6
 
-        BodyText {
+        LineText {
             id: words
             Layout.fillWidth: true
             text: picker.text
-            wrapMode: Text.NoWrap
-            elide: Text.ElideRight
             Accessible.ignored: true
         }
         Rectangle {

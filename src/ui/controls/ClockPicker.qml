@@ -56,17 +56,10 @@ FocusScope {
         font: hours.font
     }
 
-    Rectangle {
+    FieldSurface {
         width: line.implicitWidth + 8
         height: parent.height
-        radius: Theme.smallRadius
-        color: Theme.textBackground
-        border.color: Theme.controlBorder
-
-        FocusRing {
-            cornerRadius: Theme.smallRadius
-            shown: picker.activeFocus
-        }
+        focused: picker.activeFocus
 
         GridLayout {
             id: line

@@ -15,11 +15,9 @@ RowLayout {
     Layout.minimumHeight: 40
     spacing: 8
 
-    BodyText {
+    LineText {
         Layout.fillWidth: true
         text: row.title
-        wrapMode: Text.NoWrap
-        elide: Text.ElideRight
         visible: row.title.length > 0
     }
 }

@@ -73,12 +73,10 @@ Item {
             size: 14
             color: row.tint
         }
-        BodyText {
+        LineText {
             Layout.fillWidth: true
             text: row.title
             color: row.tint
-            wrapMode: Text.NoWrap
-            elide: Text.ElideRight
             Accessible.ignored: true
         }
         BodyText {

@@ -37,16 +37,10 @@ FocusScope {
     onSubjectChanged: begin()
     Component.onCompleted: begin()
 
-    Rectangle {
+    FieldSurface {
         anchors.fill: parent
         radius: Theme.boxRadius
-        color: Theme.textBackground
-        border.color: Theme.controlBorder
-
-        FocusRing {
-            cornerRadius: Theme.boxRadius
-            shown: area.activeFocus
-        }
+        focused: area.activeFocus
     }
 
     Flickable {

@@ -78,14 +78,12 @@ T.AbstractButton {
                 visible: name.length > 0
             }
 
-            BodyText {
+            LineText {
                 id: words
                 x: icon.space
                 width: line.wordsWidth
                 height: parent.height
                 verticalAlignment: Text.AlignVCenter
-                wrapMode: Text.NoWrap
-                elide: Text.ElideRight
                 text: button.text
                 color: button.tint
                 font.pixelSize: button.fontSize

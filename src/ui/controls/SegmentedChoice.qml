@@ -66,7 +66,7 @@ Item {
         Repeater {
             model: choice.options
 
-            BodyText {
+            LineText {
                 id: segment
                 required property string modelData
                 required property int index
@@ -79,8 +79,6 @@ Item {
                 font.weight: choice.currentIndex === index ? Font.Medium : Font.Normal
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
-                elide: Text.ElideRight
-                wrapMode: Text.NoWrap
                 Accessible.role: Accessible.RadioButton
                 Accessible.checkable: true
                 Accessible.checked: choice.currentIndex === index

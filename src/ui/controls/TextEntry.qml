@@ -37,7 +37,7 @@ T.TextField {
         field: field
     }
 
-    BodyText {
+    LineText {
         x: field.leftPadding
         width: field.width - field.leftPadding - field.rightPadding
         height: field.height
@@ -47,20 +47,11 @@ T.TextField {
         text: field.placeholder
         color: field.placeholderTextColor
         font: field.font
-        elide: Text.ElideRight
-        wrapMode: Text.NoWrap
         Accessible.ignored: true
     }
 
-    background: Rectangle {
+    background: FieldSurface {
         visible: !field.plain
-        radius: Theme.smallRadius
-        color: Theme.textBackground
-        border.color: Theme.controlBorder
-
-        FocusRing {
-            cornerRadius: Theme.smallRadius
-            shown: field.activeFocus
-        }
+        focused: field.activeFocus
     }
 }

@@ -17,18 +17,13 @@ ColumnLayout {
         id: heading
         text: "Activity"
     }
-    Rectangle {
+    FieldSurface {
         Layout.fillWidth: true
         Layout.fillHeight: true
         Layout.minimumHeight: 120
         radius: Theme.boxRadius
-        color: Theme.textBackground
         border.color: Theme.separator
-
-        FocusRing {
-            cornerRadius: Theme.boxRadius
-            shown: list.activeFocus
-        }
+        focused: list.activeFocus
 
         ListView {
             id: list

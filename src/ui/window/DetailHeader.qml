@@ -18,13 +18,11 @@ Item {
         anchors.rightMargin: Theme.padding
         spacing: 1
 
-        BodyText {
+        LineText {
             width: parent.width
             text: header.title
             font.pixelSize: Theme.title3
             font.weight: Font.DemiBold
-            wrapMode: Text.NoWrap
-            elide: Text.ElideRight
             Accessible.role: Accessible.Heading
         }
         CaptionText {
