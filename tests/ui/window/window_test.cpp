@@ -41,8 +41,8 @@ class WindowTest : public AppHome {
 
 const auto command = Qt::ControlModifier;
 
-// Catches a first-use sheet that can be passed by, by the pointer, by Tab or by a shortcut, one out
-// of its turn, and one that stays after it has been answered.
+// Catches a first-use sheet that can be passed by, by the pointer or by Tab, one out of its turn,
+// and one that stays after it has been answered.
 TEST_F(WindowTest, FirstStartLeadsThroughItsSheets) {
     thread(u"+12125550102"_s, myOtherLine);
     ASSERT_TRUE(QFile::rename(home.historyPath(), home.historyPath() + u'~'));
@@ -52,10 +52,6 @@ TEST_F(WindowTest, FirstStartLeadsThroughItsSheets) {
     const QPoint list(100, 104);
     user.clickAt(list);
     EXPECT_EQ(model->config().selectedGroupID, allContactsID) << "clicked through the sheet";
-    user.key(Qt::Key_A, command | Qt::ShiftModifier);
-    EXPECT_TRUE(model->selection().isEmpty()) << "a shortcut reached under the sheet";
-    user.key(Qt::Key_Comma, command);
-    EXPECT_EQ(WindowDriver::windowTitled(u"Settings"_s), nullptr) << "a test could be sent";
     const QStringList termsStops = {u"Read the full terms of use"_s, u"Quit"_s, u"I Agree"_s};
     EXPECT_THAT(tabStops(), ::testing::UnorderedElementsAreArray(termsStops));
 
