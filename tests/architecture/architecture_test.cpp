@@ -1,9 +1,12 @@
 // Reads the sources and fails on what no compiler refuses: an include that points up in the house,
-// a toolkit for windows below the views, a platform conditional outside the platform's room.
+// an area of the screen that reaches into another, a toolkit for windows below the views, a
+// platform conditional outside the platform's room, a folder or a file that has grown too large to
+// be read.
 
 #include <gtest/gtest.h>
 
 #include <QDirIterator>
+#include <QFileInfo>
 #include <QMap>
 #include <QRegularExpression>
 
@@ -35,9 +38,12 @@ const QStringList doorHeaders = {
 };
 
 struct Source {
-    QString path;  // under src/
-    QString room;  // its first folder; "" for main.cpp
+    QString path;    // under src/
+    QString room;    // its first folder; "" for main.cpp
+    QString folder;  // all of them
     QString text;
+
+    [[nodiscard]] bool isView() const { return path.endsWith(u".qml"_s); }
 };
 
 QList<Source> sources() {
@@ -50,7 +56,8 @@ QList<Source> sources() {
         EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(file.fileName());
         const QString path = root.relativeFilePath(file.fileName());
         const QString room = path.contains(u'/') ? path.section(u'/', 0, 0) : QString();
-        found.append({path, room, QString::fromUtf8(file.readAll())});
+        const QString folder = path.section(u'/', 0, -2);
+        found.append({path, room, folder, QString::fromUtf8(file.readAll())});
     }
     EXPECT_GT(found.size(), 30) << "the sources were not found under " << qPrintable(root.path());
     return found;
@@ -66,11 +73,45 @@ QStringList includes(const QString& text, QLatin1String opening) {
     return found;
 }
 
+// The areas of the screen know nothing of each other; `window` puts them together out of what
+// `controls` and `look` give to all.
+bool areaMayUse(const QString& folder, const QString& used) {
+    return folder == used || folder == u"ui/window" || used == u"ui/look" ||
+           (used == u"ui/controls" && folder != u"ui/look");
+}
+
+// Where the components of the views lie, by name: those written as a view, and those of C++.
+QMap<QString, QString> components(const QList<Source>& all) {
+    static const QRegularExpression element(
+        u"(?:class|struct) (\\w+)[^;{]*\\{[^}]*?\\bQML_ELEMENT\\b|\\bQML_NAMED_ELEMENT\\((\\w+)"_s);
+    QMap<QString, QString> folders;
+    for (const Source& source : all) {
+        if (source.isView())
+            folders[QFileInfo(source.path).baseName()] = source.folder;
+        else if (source.room == u"ui")
+            for (const QRegularExpressionMatch& match : element.globalMatch(source.text))
+                folders[match.captured(1) + match.captured(2)] = source.folder;
+    }
+    return folders;
+}
+
+// The capitalised words of a view that stand alone or before a dot, comments and texts aside.
+QStringList names(QString view) {
+    static const QRegularExpression silent(
+        u"//[^\\n]*|/\\*[\\s\\S]*?\\*/|\"(?:\\\\.|[^\"\\\\])*\""_s);
+    static const QRegularExpression name(u"(?<![\\w.])[A-Z]\\w*"_s);
+    QStringList found;
+    for (const QRegularExpressionMatch& match : name.globalMatch(view.replace(silent, u" "_s)))
+        found.append(match.captured());
+    return found;
+}
+
 bool mayInclude(const Source& source, const QString& included) {
     const QString target = included.section(u'/', 0, 0);
-    if (!included.contains(u'/') || source.room.isEmpty() || target == source.room ||
-        target == u"core")
+    if (!included.contains(u'/') || source.room.isEmpty() || target == u"core")
         return true;
+    if (target == source.room)
+        return target != u"ui" || areaMayUse(source.folder, included.section(u'/', 0, -2));
     if (source.room == u"platform")
         return doorHeaders.contains(included);
     return allowed.value(source.room).contains(target);
@@ -82,7 +123,12 @@ TEST(Architecture, EverySourceKeepsToWhatItsRoomMaySee) {
     static const QRegularExpression conditional(
         u"^\\s*#\\s*(?:if|ifdef|ifndef|elif)\\b.*(?:__APPLE__|__linux__|__GLIBC__|_WIN32|Q_OS_|TARGET_OS)|\\bQt\\.platform\\b"_s,
         QRegularExpression::MultilineOption);
-    for (const Source& source : sources()) {
+    const QList<Source> all = sources();
+    const QMap<QString, QString> folders = components(all);
+    ASSERT_EQ(folders.value(u"Theme"_s), u"ui/look"_s);
+    ASSERT_EQ(folders.value(u"ComposeModel"_s), u"ui/compose"_s);
+    ASSERT_EQ(folders.value(u"Menus"_s), u"ui/controls"_s);
+    for (const Source& source : all) {
         const bool isPlatform = source.room == u"platform";
         const bool seesWindows = isPlatform || source.room.isEmpty() || source.room == u"ui";
         for (const QString& included : includes(source.text, "\""_L1))
@@ -91,9 +137,23 @@ TEST(Architecture, EverySourceKeepsToWhatItsRoomMaySee) {
         for (const QString& included : includes(source.text, "<"_L1))
             EXPECT_TRUE(seesWindows || !windowClass.match(included).hasMatch())
                 << qPrintable(source.path) << " includes " << qPrintable(included);
+        for (const QString& name : source.isView() ? names(source.text) : QStringList())
+            EXPECT_TRUE(areaMayUse(source.folder, folders.value(name, source.folder)))
+                << qPrintable(source.path) << " may not name " << qPrintable(name);
         EXPECT_TRUE(isPlatform || !conditional.match(source.text).hasMatch())
             << qPrintable(source.path) << " asks for the platform";
     }
+}
+
+TEST(Architecture, FilesAndFoldersCanBeRead) {
+    QMap<QString, int> counts;
+    for (const Source& source : sources()) {
+        EXPECT_LE(source.text.count(u'\n'), source.isView() ? 180 : 250) << qPrintable(source.path);
+        ++counts[source.folder];
+    }
+    counts.remove(u"ui/controls"_s);
+    for (const auto& [folder, count] : counts.asKeyValueRange())
+        EXPECT_LE(count, 25) << qPrintable(folder);
 }
 
 }  // namespace

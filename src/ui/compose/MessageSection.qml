@@ -15,12 +15,7 @@ ColumnLayout {
 
     spacing: 8
 
-    BodyText {
-        text: "Message"
-        font.pixelSize: Theme.headline
-        font.weight: Font.DemiBold
-        Accessible.role: Accessible.Heading
-    }
+    SectionHeading { text: "Message" }
     MessageEditor {
         Layout.fillWidth: true
         Layout.fillHeight: true
@@ -45,11 +40,9 @@ ColumnLayout {
             entries: section.model.insertEntries
             onChosen: index => section.model.insert(index)
         }
-        BodyText {
+        CaptionText {
             Layout.fillWidth: true
             text: section.model.hint
-            color: Theme.secondary
-            font.pixelSize: Theme.caption
         }
     }
 }

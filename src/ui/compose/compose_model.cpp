@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "compose/template_renderer.h"
 #include "core/phone.h"
-#include "ui/run/run_display.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,22 +30,11 @@ const std::array<Snippet, 4>& snippets() {
 }  // namespace
 
 ComposeModel::ComposeModel(AppModel& model)
-    : model_(model),
-      resuming_(model),
-      senderNumber_(model.config().senderNumber),
-      subject_(subject()) {
+    : model_(model), senderNumber_(model.config().senderNumber), subject_(subject()) {
     connect(&model_, &AppModel::configChanged, this, &ComposeModel::followConfig);
     connect(&model_, &AppModel::contactsAllowedChanged, this, &ComposeModel::messageChanged);
     connect(&model_, &AppModel::numbersChanged, this, &ComposeModel::senderChanged);
-    connect(&model_, &AppModel::selectionChanged, this, &ComposeModel::sendChanged);
-    const Runner* runner = &model_.runner();
-    connect(runner, &Runner::stateChanged, this, &ComposeModel::stageChanged);
-    for (const auto signal :
-         {&Runner::stateChanged, &Runner::messageChanged, &Runner::doneChanged,
-          &Runner::totalChanged, &Runner::currentChanged, &Runner::nextInChanged})
-        connect(runner, signal, this, &ComposeModel::statusChanged);
-    for (const auto signal : {&Runner::logReplaced, &Runner::logAppended})
-        connect(runner, signal, this, &ComposeModel::activityChanged);
+    connect(&model_.runner(), &Runner::stateChanged, this, &ComposeModel::lockedChanged);
 }
 
 void ComposeModel::followConfig() {
@@ -69,7 +58,9 @@ QString ComposeModel::subject() const {
 }
 
 QString ComposeModel::hint() const {
-    return messageHint(message());
+    return message().contains("---"_L1)
+               ? u"Each person always gets the same version."_s
+               : u"Insert adds a first name, a note, or another version."_s;
 }
 
 QVariantList ComposeModel::insertEntries() {
@@ -102,52 +93,6 @@ bool ComposeModel::locked() const {
     return model_.runner().isActive();
 }
 
-ComposeModel::Stage ComposeModel::stage() const {
-    switch (model_.runner().state.value()) {
-        case Runner::State::running:
-            return Stage::running;
-        case Runner::State::paused:
-            return Stage::paused;
-        case Runner::State::stopping:
-            return Stage::stopping;
-        case Runner::State::idle:
-        case Runner::State::done:
-            break;
-    }
-    return Stage::ready;
-}
-
-QString ComposeModel::sendTitle() const {
-    return velmora::sendTitle(model_.selection().size());
-}
-
-bool ComposeModel::canSend() const {
-    return !model_.selection().isEmpty();
-}
-
-bool ComposeModel::showsStatus() const {
-    const Runner& runner = model_.runner();
-    const bool hasNews = runner.state == Runner::State::done || !runner.message.value().isEmpty() ||
-                         runner.total >= 1;
-    return stage() == Stage::ready ? hasNews : stage() != Stage::stopping;
-}
-
-QString ComposeModel::status() const {
-    return statusLine(model_.runner());
-}
-
-double ComposeModel::progress() const {
-    return static_cast<double>(model_.runner().done);
-}
-
-double ComposeModel::progressTotal() const {
-    return static_cast<double>(std::max<qint64>(model_.runner().total, 1));
-}
-
-bool ComposeModel::showsActivity() const {
-    return !model_.runner().log().empty();
-}
-
 void ComposeModel::setMessage(const QString& text) {
     if (!locked() && text != message())
         model_.setCurrentTemplate(text);
@@ -165,20 +110,6 @@ void ComposeModel::chooseSender(int place) {
     const std::vector<NumberInfo> numbers = model_.numbers;
     if (place >= 0 && place < std::ssize(numbers))
         model_.setSenderNumber(numbers[static_cast<size_t>(place)].number);
-}
-
-void ComposeModel::requestRun() {
-    model_.requestRun();
-}
-
-void ComposeModel::stop() {
-    if (!resuming_.isUnderWay())
-        model_.runner().stop();
-}
-
-void ComposeModel::resume() {
-    resuming_.begin();
-    model_.runner().resume();
 }
 
 }  // namespace velmora

@@ -6,12 +6,11 @@
 #include <QtQmlIntegration>
 
 #include "app/app_model.h"
-#include "ui/controls/double_click.h"
 
 namespace velmora {
 
-/// What the composer shows and does: the message, the number to send from, and the run. All of it
-/// is read from the application model and its runner at each look.
+/// What the composer shows and does: the message and the number to send from. All of it is read
+/// from the application model at each look.
 class ComposeModel final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -24,21 +23,9 @@ class ComposeModel final : public QObject {
     Q_PROPERTY(QString senderTitle READ senderTitle NOTIFY senderChanged)
     Q_PROPERTY(QStringList senderEntries READ senderEntries NOTIFY senderChanged)
     Q_PROPERTY(int senderIndex READ senderIndex NOTIFY senderChanged)
-    Q_PROPERTY(bool locked READ locked NOTIFY stageChanged)
-    Q_PROPERTY(Stage stage READ stage NOTIFY stageChanged)
-    Q_PROPERTY(QString sendTitle READ sendTitle NOTIFY sendChanged)
-    Q_PROPERTY(bool canSend READ canSend NOTIFY sendChanged)
-    Q_PROPERTY(bool showsStatus READ showsStatus NOTIFY statusChanged)
-    Q_PROPERTY(QString status READ status NOTIFY statusChanged)
-    Q_PROPERTY(double progress READ progress NOTIFY statusChanged)
-    Q_PROPERTY(double progressTotal READ progressTotal NOTIFY statusChanged)
-    Q_PROPERTY(bool showsActivity READ showsActivity NOTIFY activityChanged)
+    Q_PROPERTY(bool locked READ locked NOTIFY lockedChanged)
 
   public:
-    /// What the send section offers.
-    enum class Stage { ready, running, paused, stopping };
-    Q_ENUM(Stage)
-
     /// `model` outlives it.
     explicit ComposeModel(AppModel& model);
 
@@ -49,7 +36,8 @@ class ComposeModel final : public QObject {
     /// What the message belongs to: the chosen list, empty without one. It is announced after the
     /// message.
     [[nodiscard]] QString subject() const;
-    /// The note under the message, which speaks of its versions or of the "Insert" menu.
+    /// The note under the message: who gets which version once there are several, before that what
+    /// the "Insert" menu brings.
     [[nodiscard]] QString hint() const;
     /// Entries for a menu button; `insert` takes the chosen one's place.
     [[nodiscard]] static QVariantList insertEntries();
@@ -62,21 +50,6 @@ class ComposeModel final : public QObject {
 
     /// True during a run, which keeps its message and its number.
     [[nodiscard]] bool locked() const;
-    [[nodiscard]] Stage stage() const;
-    /// The send button's title, with the number of checked people.
-    [[nodiscard]] QString sendTitle() const;
-    /// Whether anyone is checked.
-    [[nodiscard]] bool canSend() const;
-    /// Whether there is room for the status, which may still be empty.
-    [[nodiscard]] bool showsStatus() const;
-    /// How the run stands, in words; empty when there is nothing to say.
-    [[nodiscard]] QString status() const;
-    /// How many of the run's people are done, of `progressTotal`.
-    [[nodiscard]] double progress() const;
-    /// At least 1.
-    [[nodiscard]] double progressTotal() const;
-    /// Whether the log has a line.
-    [[nodiscard]] bool showsActivity() const;
 
     /// Stores the message as typed and renders everyone's text again. Does nothing during a run or
     /// without a list.
@@ -88,29 +61,17 @@ class ComposeModel final : public QObject {
     /// Sends from the number at `place` from now on and checks the list against it. Does nothing
     /// during a run or where there is no such number.
     Q_INVOKABLE void chooseSender(int place);
-    /// At the event loop's next turn, asks for the run to be confirmed, or has the alert say why it
-    /// cannot be. Does nothing during a run and before the terms are accepted.
-    Q_INVOKABLE void requestRun();
-    /// Ends the active run after the text in hand. Does nothing for the length of a double click
-    /// after `resume`: the button has just grown under the pointer.
-    Q_INVOKABLE void stop();
-    /// Lets a paused run go on.
-    Q_INVOKABLE void resume();
 
   Q_SIGNALS:
     void messageChanged();
     void subjectChanged();
     void senderChanged();
-    void stageChanged();
-    void sendChanged();
-    void statusChanged();
-    void activityChanged();
+    void lockedChanged();
 
   private:
     void followConfig();
 
     AppModel& model_;
-    DoubleClick resuming_;
     QString senderNumber_;  // what the views were last told, as is the subject
     QString subject_;
 };

@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import Velmora
 
 /// The one alert: the application's icon, a title, a sentence and OK.
-FocusScope {
+SheetPanel {
     id: alert
 
     property string title
@@ -11,35 +11,15 @@ FocusScope {
 
     signal dismissed
 
-    function takeReturn(event: KeyEvent): bool {
-        const plain = (event.modifiers & ~Qt.KeypadModifier) === Qt.NoModifier;
-        if (plain && !event.isAutoRepeat)
-            dismissed();
-        return plain;
-    }
-
-    height: Math.min(implicitHeight, Window.height)
     implicitWidth: 280
     implicitHeight: column.implicitHeight + 36
-    focus: true
+    radius: Theme.largeRadius
     Accessible.role: Accessible.AlertMessage
     Accessible.name: title
     Accessible.description: message
     Component.onCompleted: Announcer.alert(alert)
-    Keys.onReturnPressed: event => event.accepted = takeReturn(event)
-    Keys.onEnterPressed: event => event.accepted = takeReturn(event)
-    Keys.onPressed: event => {
-        event.accepted = event.matches(StandardKey.Cancel);
-        if (event.accepted && !event.isAutoRepeat)
-            dismissed();
-    }
-
-    Rectangle {
-        anchors.fill: parent
-        radius: 12
-        color: Theme.sheetBackground
-        border.color: Theme.sheetEdge
-    }
+    onAccepted: dismissed()
+    onCancelled: dismissed()
 
     ColumnLayout {
         id: column

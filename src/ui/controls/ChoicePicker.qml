@@ -54,19 +54,17 @@ MenuOpener {
         anchors.rightMargin: 5
         spacing: 6
 
-        BodyText {
+        LineText {
             id: words
             Layout.fillWidth: true
             text: picker.text
-            wrapMode: Text.NoWrap
-            elide: Text.ElideRight
             Accessible.ignored: true
         }
         Rectangle {
             id: arrows
             implicitWidth: 16
             implicitHeight: 16
-            radius: 4
+            radius: Theme.tinyRadius
             color: picker.enabled ? Theme.accent : Theme.quaternary
 
             SymbolIcon {

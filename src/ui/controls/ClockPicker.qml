@@ -37,7 +37,7 @@ FocusScope {
 
     implicitWidth: line.implicitWidth + 8 + 4 + arrows.implicitWidth
     implicitHeight: Theme.controlHeight
-    opacity: enabled ? 1 : 0.45
+    opacity: enabled ? 1 : Theme.disabledOpacity
     Accessible.role: Accessible.Grouping
     Accessible.name: accessibleName
 
@@ -56,17 +56,10 @@ FocusScope {
         font: hours.font
     }
 
-    Rectangle {
+    FieldSurface {
         width: line.implicitWidth + 8
         height: parent.height
-        radius: Theme.radius - 1
-        color: Theme.textBackground
-        border.color: Theme.controlBorder
-
-        FocusRing {
-            cornerRadius: Theme.radius - 1
-            shown: picker.activeFocus
-        }
+        focused: picker.activeFocus
 
         GridLayout {
             id: line

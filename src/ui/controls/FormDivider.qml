@@ -4,6 +4,6 @@ import Velmora
 /// The hairline between two rows of a form's group.
 HorizontalDivider {
     Layout.fillWidth: true
-    Layout.leftMargin: 10
-    Layout.rightMargin: 10
+    Layout.leftMargin: Theme.formMargin
+    Layout.rightMargin: Theme.formMargin
 }

@@ -10,16 +10,14 @@ RowLayout {
 
     Layout.fillWidth: true
     Layout.fillHeight: false
-    Layout.leftMargin: 10
-    Layout.rightMargin: 10
+    Layout.leftMargin: Theme.formMargin
+    Layout.rightMargin: Theme.formMargin
     Layout.minimumHeight: 40
     spacing: 8
 
-    BodyText {
+    LineText {
         Layout.fillWidth: true
         text: row.title
-        wrapMode: Text.NoWrap
-        elide: Text.ElideRight
         visible: row.title.length > 0
     }
 }

@@ -16,7 +16,7 @@ ColumnLayout {
 
     BodyText {
         Layout.fillWidth: true
-        Layout.leftMargin: 10
+        Layout.leftMargin: Theme.formMargin
         text: section.title
         font.weight: Font.DemiBold
         Accessible.role: Accessible.Heading
@@ -24,7 +24,7 @@ ColumnLayout {
     Rectangle {
         Layout.fillWidth: true
         implicitHeight: rows.implicitHeight
-        radius: 8
+        radius: Theme.boxRadius
         color: Theme.groupBackground
         border.color: Theme.separator
 
@@ -34,12 +34,10 @@ ColumnLayout {
             spacing: 0
         }
     }
-    BodyText {
+    CaptionText {
         Layout.fillWidth: true
-        Layout.leftMargin: 10
-        Layout.rightMargin: 10
+        Layout.leftMargin: Theme.formMargin
+        Layout.rightMargin: Theme.formMargin
         text: section.footer
-        color: Theme.secondary
-        font.pixelSize: Theme.caption
     }
 }

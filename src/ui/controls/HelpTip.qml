@@ -25,7 +25,7 @@ T.ToolTip {
         font.pixelSize: Theme.caption
     }
     background: Rectangle {
-        radius: 4
+        radius: Theme.tinyRadius
         color: Theme.menuBackground
         border.color: Theme.controlBorder
     }

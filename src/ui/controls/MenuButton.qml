@@ -65,12 +65,10 @@ MenuOpener {
             name: button.symbol
             size: button.fontSize + 3
         }
-        BodyText {
+        LineText {
             Layout.fillWidth: true
             text: button.text
             font.pixelSize: button.fontSize
-            wrapMode: Text.NoWrap
-            elide: Text.ElideRight
             Accessible.ignored: true
         }
         SymbolIcon {

@@ -23,7 +23,7 @@ Item {
     }
 
     activeFocusOnTab: filled
-    opacity: enabled && filled ? 1 : 0.45
+    opacity: enabled && filled ? 1 : Theme.disabledOpacity
     Accessible.focusable: true
     Accessible.onPressAction: if (enabled) open()
     Keys.onSpacePressed: event => openByKey(event)

@@ -44,7 +44,7 @@ Item {
     Rectangle {
         width: row.fullWidth
         height: row.height
-        radius: 5
+        radius: Theme.smallRadius
         color: row.highlighted ? Theme.accent : "transparent"
 
         HoverHandler {
@@ -73,12 +73,10 @@ Item {
             size: 14
             color: row.tint
         }
-        BodyText {
+        LineText {
             Layout.fillWidth: true
             text: row.title
             color: row.tint
-            wrapMode: Text.NoWrap
-            elide: Text.ElideRight
             Accessible.ignored: true
         }
         BodyText {

@@ -37,16 +37,10 @@ FocusScope {
     onSubjectChanged: begin()
     Component.onCompleted: begin()
 
-    Rectangle {
+    FieldSurface {
         anchors.fill: parent
-        radius: 8
-        color: Theme.textBackground
-        border.color: Theme.controlBorder
-
-        FocusRing {
-            cornerRadius: 8
-            shown: area.activeFocus
-        }
+        radius: Theme.boxRadius
+        focused: area.activeFocus
     }
 
     Flickable {

@@ -39,7 +39,7 @@ Item {
             Accessible.ignored: true
         }
         StepArrows {
-            opacity: enabled ? 1 : 0.45
+            opacity: enabled ? 1 : Theme.disabledOpacity
             canIncrease: stepper.value < stepper.to
             canDecrease: stepper.value > stepper.from
             onStepped: delta => stepper.changed(stepper.value + delta)

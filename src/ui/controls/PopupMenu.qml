@@ -75,13 +75,13 @@ T.Popup {
             anchors.topMargin: 3
             anchors.margins: -2
             anchors.bottomMargin: -5
-            radius: 10
+            radius: Theme.panelRadius
             color: Theme.shadow
             opacity: 0.35
         }
         Rectangle {
             anchors.fill: parent
-            radius: 8
+            radius: Theme.boxRadius
             color: Theme.menuBackground
             border.color: Theme.controlBorder
         }

@@ -27,13 +27,6 @@ T.AbstractButton {
                                       : controlSize === PushButton.Small
                                         ? Theme.smallControlHeight : Theme.controlHeight
 
-    function takeReturn(event: KeyEvent): bool {
-        const plain = (event.modifiers & ~Qt.KeypadModifier) === Qt.NoModifier;
-        if (plain && !event.isAutoRepeat)
-            clicked();
-        return plain;
-    }
-
     implicitWidth: Math.max(framed && text.length > 0 ? 64 : 0,
                             face.implicitWidth + leftPadding + rightPadding)
     implicitHeight: framed ? faceHeight : Math.max(16, face.implicitHeight + 2)
@@ -41,11 +34,11 @@ T.AbstractButton {
     rightPadding: leftPadding
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
-    opacity: enabled || prominent ? 1 : 0.45
+    opacity: enabled || prominent ? 1 : Theme.disabledOpacity
     Accessible.name: text
     Accessible.description: enabled ? help : Theme.unavailable
-    Keys.onReturnPressed: event => event.accepted = takeReturn(event)
-    Keys.onEnterPressed: event => event.accepted = takeReturn(event)
+    Keys.onReturnPressed: event => PlainReturn.take(event, clicked)
+    Keys.onEnterPressed: event => PlainReturn.take(event, clicked)
 
     HoverHandler {
         cursorShape: button.kind === PushButton.Link ? Qt.PointingHandCursor : Qt.ArrowCursor
@@ -85,14 +78,12 @@ T.AbstractButton {
                 visible: name.length > 0
             }
 
-            BodyText {
+            LineText {
                 id: words
                 x: icon.space
                 width: line.wordsWidth
                 height: parent.height
                 verticalAlignment: Text.AlignVCenter
-                wrapMode: Text.NoWrap
-                elide: Text.ElideRight
                 text: button.text
                 color: button.tint
                 font.pixelSize: button.fontSize

@@ -14,11 +14,11 @@ FocusScope {
 
     implicitWidth: 200
     implicitHeight: row.implicitHeight + 8
-    opacity: enabled ? 1 : 0.45
+    opacity: enabled ? 1 : Theme.disabledOpacity
 
     Rectangle {
         anchors.fill: parent
-        radius: 6
+        radius: Theme.radius
         color: Theme.quaternary
 
         FocusRing { shown: field.activeFocus }

@@ -17,7 +17,7 @@ Item {
     implicitWidth: 64 * options.length
     implicitHeight: small ? Theme.smallControlHeight + 2 : Theme.controlHeight
     activeFocusOnTab: true
-    opacity: enabled ? 1 : 0.45
+    opacity: enabled ? 1 : Theme.disabledOpacity
     Accessible.role: Accessible.Grouping
     Accessible.name: accessibleName
     Accessible.description: options[currentIndex] + ". "
@@ -54,7 +54,7 @@ Item {
             x: choice.currentIndex * track.segmentWidth
             width: track.segmentWidth
             height: parent.height
-            radius: Theme.radius - 1
+            radius: Theme.smallRadius
             color: Theme.segment
             border.color: Theme.segmentEdge
 
@@ -66,7 +66,7 @@ Item {
         Repeater {
             model: choice.options
 
-            BodyText {
+            LineText {
                 id: segment
                 required property string modelData
                 required property int index
@@ -79,8 +79,6 @@ Item {
                 font.weight: choice.currentIndex === index ? Font.Medium : Font.Normal
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
-                elide: Text.ElideRight
-                wrapMode: Text.NoWrap
                 Accessible.role: Accessible.RadioButton
                 Accessible.checkable: true
                 Accessible.checked: choice.currentIndex === index

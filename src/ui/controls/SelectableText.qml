@@ -16,7 +16,7 @@ FocusScope {
 
     /// Whether the keyboard is in the passage's menu.
     property bool lent: false
-    readonly property TextEdit selection: maker.count > 0 ? maker.itemAt(0) as TextEdit : null
+    readonly property TextEdit selection: maker.item as TextEdit
     readonly property bool selects: selection !== null && selection.selectedText.length > 0
 
     implicitHeight: shown.implicitHeight
@@ -43,9 +43,9 @@ FocusScope {
     }
     // Made when the pointer comes, for it lays the text out a second time; it has the mouse then, and
     // is seen while something is selected.
-    Repeater {
+    MadeWhenWanted {
         id: maker
-        model: pointer.hovered || passage.activeFocus || passage.lent ? 1 : 0
+        wanted: pointer.hovered || passage.activeFocus || passage.lent
 
         TextEdit {
             id: selection

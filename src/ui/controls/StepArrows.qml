@@ -35,7 +35,7 @@ Item {
             opacity: half.enabled || !arrows.enabled ? 1 : 0.35
         }
         background: Rectangle {
-            radius: 4
+            radius: Theme.tinyRadius
             color: half.down ? Theme.controlPressed : "transparent"
             anchors.fill: parent
             anchors.margins: 1

@@ -26,7 +26,7 @@ T.TextField {
     selectByMouse: true
     font.family: Theme.fontFamily
     font.pixelSize: small ? Theme.caption : Theme.body
-    opacity: enabled || plain ? 1 : 0.45
+    opacity: enabled || plain ? 1 : Theme.disabledOpacity
     Accessible.name: accessibleName
     Accessible.description: enabled ? "" : Theme.unavailable
     onTextEdited: field.edited(field.text)
@@ -37,7 +37,7 @@ T.TextField {
         field: field
     }
 
-    BodyText {
+    LineText {
         x: field.leftPadding
         width: field.width - field.leftPadding - field.rightPadding
         height: field.height
@@ -47,20 +47,11 @@ T.TextField {
         text: field.placeholder
         color: field.placeholderTextColor
         font: field.font
-        elide: Text.ElideRight
-        wrapMode: Text.NoWrap
         Accessible.ignored: true
     }
 
-    background: Rectangle {
+    background: FieldSurface {
         visible: !field.plain
-        radius: Theme.radius - 1
-        color: Theme.textBackground
-        border.color: Theme.controlBorder
-
-        FocusRing {
-            cornerRadius: Theme.radius - 1
-            shown: field.activeFocus
-        }
+        focused: field.activeFocus
     }
 }

@@ -17,7 +17,7 @@ Item {
     implicitWidth: 16
     implicitHeight: 16
     activeFocusOnTab: true
-    opacity: enabled || locked ? 1 : 0.45
+    opacity: enabled || locked ? 1 : Theme.disabledOpacity
     Accessible.role: Accessible.CheckBox
     Accessible.name: accessibleName
     Accessible.description: enabled ? "" : Theme.unavailable
@@ -44,7 +44,7 @@ Item {
 
     Rectangle {
         anchors.fill: parent
-        radius: 4
+        radius: Theme.tinyRadius
         color: box.locked ? Theme.quaternary
                : box.checked ? (tap.pressed ? Theme.accentPressed : Theme.accent)
                            : (tap.pressed ? Theme.controlPressed
@@ -61,7 +61,7 @@ Item {
             visible: box.checked
         }
         FocusRing {
-            cornerRadius: 4
+            cornerRadius: Theme.tinyRadius
             shown: box.activeFocus
         }
     }

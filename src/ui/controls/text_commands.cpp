@@ -8,11 +8,10 @@ namespace velmora {
 
 namespace {
 
-using Command = MenuCommands::Command;
+using menus::Command;
 
 MenuEntry item(const QString& text, const QString& shortcut, Command command) {
-    return {
-        .text = text, .shortcut = shortcut, .command = command, .reach = MenuCommands::Reach::text};
+    return {.text = text, .shortcut = shortcut, .command = command};
 }
 
 const char* operationOf(Command command) {

@@ -5,7 +5,7 @@
 #include <QVariantList>
 #include <vector>
 
-#include "ui/menus/menu_commands.h"
+#include "ui/controls/menu_entry.h"
 
 namespace velmora {
 
@@ -24,7 +24,7 @@ class TextCommands final : public QObject {
     /// something now. A text that cannot be edited is copied and selected alone.
     Q_INVOKABLE static QVariantList entriesFor(const QObject* field);
     /// Does what `command` says to `field`; nothing when that is no text field.
-    Q_INVOKABLE static void run(velmora::MenuCommands::Command command, QObject* field);
+    Q_INVOKABLE static void run(velmora::menus::Command command, QObject* field);
     /// From now on shortcuts are heard while `field`, a text that cannot be edited, has the
     /// keyboard. The toolkit's own swallows them all.
     Q_INVOKABLE void passShortcuts(QObject* field);

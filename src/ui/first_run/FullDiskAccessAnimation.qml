@@ -76,7 +76,7 @@ Item {
             y: 68
             width: parent.width - 28
             height: 44
-            radius: 8
+            radius: Theme.boxRadius
             color: Theme.groupBackground
             border.color: Theme.separator
 

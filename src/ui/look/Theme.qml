@@ -61,12 +61,18 @@ QtObject {
     readonly property int gap: 8
     readonly property int padding: 16
     readonly property int sheetPadding: 24
+    readonly property int formMargin: 10
+    readonly property int tinyRadius: 4
+    readonly property int smallRadius: 5
     readonly property int radius: 6
+    readonly property int boxRadius: 8
     readonly property int panelRadius: 10
+    readonly property int largeRadius: 12
     readonly property int controlHeight: 24
     readonly property int smallControlHeight: 20
     readonly property int largeControlHeight: 30
     readonly property int focusRingWidth: 3
+    readonly property real disabledOpacity: 0.45
 
     /// How long a colour or a position takes to change, in milliseconds.
     readonly property int quick: SystemAppearance.animated ? 90 : 0

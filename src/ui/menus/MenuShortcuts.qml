@@ -3,40 +3,24 @@ import QtQuick
 import QtQml
 import Velmora
 
-/// The keys of the menu commands, where the menus are drawn in the window. A text field answers the
-/// keys of the Edit menu itself.
+/// The keys of the menu commands, where the menus are drawn in the window.
 Instantiator {
-    id: menus
+    id: keys
 
-    required property Presentation presentation
+    required property MenuCommands commands
 
-    model: presentation.menus.menus
+    model: commands.shortcuts
 
-    delegate: Instantiator {
-        id: menu
-
+    delegate: Shortcut {
         required property var modelData
 
-        model: menu.modelData.entries
+        readonly property var offer: keys.commands.offers[modelData.command]
 
-        delegate: Shortcut {
-            id: key
-
-            required property var modelData
-
-            readonly property bool onContent: modelData.reach === MenuCommands.Reach.content
-            readonly property bool taken: modelData.command === MenuCommands.Command.send
-                                          && menus.presentation.window.paused
-
-            sequences: modelData.sequences
-            autoRepeat: false
-            context: onContent || modelData.command === MenuCommands.Command.close
-                     ? Qt.WindowShortcut : Qt.ApplicationShortcut
-            enabled: modelData.shortcut !== "" && modelData.reach !== MenuCommands.Reach.text && !taken
-                     && (!onContent || menus.presentation.window.commandsEnabled)
-                     && (modelData.reach !== MenuCommands.Reach.agreed
-                         || menus.presentation.window.settingsEnabled)
-            onActivated: menus.presentation.menus.run(key.modelData.command)
-        }
+        sequences: offer.sequences
+        autoRepeat: false
+        context: keys.commands.meansWindow(modelData.command) ? Qt.WindowShortcut
+                                                              : Qt.ApplicationShortcut
+        enabled: offer.enabled
+        onActivated: keys.commands.run(modelData.command)
     }
 }

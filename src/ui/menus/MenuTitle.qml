@@ -29,7 +29,7 @@ Item {
         anchors.fill: parent
         anchors.topMargin: 3
         anchors.bottomMargin: 3
-        radius: 5
+        radius: Theme.smallRadius
         visible: title.open
         color: Theme.quaternary
     }

@@ -7,10 +7,10 @@ import Velmora
 Platform.MenuBar {
     id: bar
 
-    required property Presentation presentation
+    required property MenuCommands commands
 
     property Instantiator menuMaker: Instantiator {
-        model: bar.presentation.menus.menus
+        model: bar.commands.menus
         onObjectAdded: (index, object) => bar.insertMenu(index, object as Platform.Menu)
 
         delegate: Platform.Menu {
@@ -28,23 +28,19 @@ Platform.MenuBar {
 
                     required property var modelData
 
-                    readonly property bool taken: modelData.command === MenuCommands.Command.send
-                                                  && bar.presentation.window.paused
+                    readonly property var offer: bar.commands.offers[modelData.command]
 
                     text: modelData.text
                     separator: modelData.separator
-                    shortcut: taken ? "" : modelData.shortcut
-                    enabled: (modelData.reach !== MenuCommands.Reach.content
-                              || bar.presentation.window.commandsEnabled)
-                             && (modelData.reach !== MenuCommands.Reach.agreed
-                                 || bar.presentation.window.settingsEnabled)
-                    role: modelData.command === MenuCommands.Command.about
+                    shortcut: offer?.shortcut ?? ""
+                    enabled: offer?.enabled ?? true
+                    role: modelData.command === Menus.Command.about
                           ? Platform.MenuItem.AboutRole
-                          : modelData.command === MenuCommands.Command.settings
+                          : modelData.command === Menus.Command.settings
                             ? Platform.MenuItem.PreferencesRole
-                            : modelData.command === MenuCommands.Command.quit
+                            : modelData.command === Menus.Command.quit
                               ? Platform.MenuItem.QuitRole : Platform.MenuItem.NoRole
-                    onTriggered: bar.presentation.menus.run(item.modelData.command)
+                    onTriggered: bar.commands.run(item.modelData.command)
                 }
             }
 

@@ -19,6 +19,7 @@ Rectangle {
     }
 
     implicitHeight: 28
+    enabled: commands.contentOffered
     color: Theme.windowBackground
     Accessible.role: Accessible.MenuBar
     Accessible.ignored: !enabled

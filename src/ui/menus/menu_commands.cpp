@@ -1,8 +1,8 @@
 #include "ui/menus/menu_commands.h"
 
 #include <QGuiApplication>
-#include <QKeySequence>
 #include <QWindow>
+#include <algorithm>
 #include <vector>
 
 #include "ui/controls/text_commands.h"
@@ -13,8 +13,33 @@ namespace velmora {
 
 namespace {
 
-using Command = MenuCommands::Command;
-using Reach = MenuCommands::Reach;
+using menus::Command;
+
+/// Where an item is offered and its shortcut heard: everywhere, everywhere once the terms are
+/// accepted, in the main window while nothing covers its content, or in the text field that has
+/// the keyboard.
+enum class Reach { application, agreed, content, text };
+
+Reach reachOf(Command command) {
+    switch (command) {
+        case Command::settings:
+            return Reach::agreed;
+        case Command::selectShown:
+        case Command::clearShown:
+        case Command::reload:
+        case Command::send:
+            return Reach::content;
+        case Command::undo:
+        case Command::redo:
+        case Command::cut:
+        case Command::copy:
+        case Command::paste:
+        case Command::selectAllText:
+            return Reach::text;
+        default:
+            return Reach::application;
+    }
+}
 
 enum class Owner { application, window };
 
@@ -26,29 +51,36 @@ QVariant menu(const QString& title, const std::vector<MenuEntry>& entries,
     return QVariant::fromValue(made);
 }
 
-MenuEntry item(const QString& text, const QString& shortcut, Command command,
-               Reach reach = Reach::application) {
-    return {.text = text, .shortcut = shortcut, .command = command, .reach = reach};
+MenuEntry item(const QString& text, const QString& shortcut, Command command) {
+    return {.text = text, .shortcut = shortcut, .command = command};
 }
 
 QVariant applicationMenu() {
     return menu(u"Velmora"_s,
                 {item(u"About Velmora"_s, u""_s, Command::about),
                  {},
-                 item(u"Settings\u2026"_s, u"Ctrl+,"_s, Command::settings, Reach::agreed),
+                 item(u"Settings\u2026"_s, u"Ctrl+,"_s, Command::settings),
                  {},
                  item(u"Quit Velmora"_s, u"Ctrl+Q"_s, Command::quit)},
                 Owner::application);
 }
 
 QVariant peopleMenu() {
-    return menu(u"People"_s,
-                {item(u"Select All"_s, u"Ctrl+Shift+A"_s, Command::selectShown, Reach::content),
-                 item(u"Clear Selection"_s, u"Ctrl+Shift+D"_s, Command::clearShown, Reach::content),
-                 {},
-                 item(u"Reload from Contacts"_s, u"Ctrl+R"_s, Command::reload, Reach::content),
-                 {},
-                 item(u"Send\u2026"_s, u"Ctrl+Return"_s, Command::send, Reach::content)});
+    return menu(u"People"_s, {item(u"Select All"_s, u"Ctrl+Shift+A"_s, Command::selectShown),
+                              item(u"Clear Selection"_s, u"Ctrl+Shift+D"_s, Command::clearShown),
+                              {},
+                              item(u"Reload from Contacts"_s, u"Ctrl+R"_s, Command::reload),
+                              {},
+                              item(u"Send\u2026"_s, u"Ctrl+Return"_s, Command::send)});
+}
+
+std::vector<MenuEntry> itemsOf(const QVariantList& menus) {
+    std::vector<MenuEntry> items;
+    for (const QVariant& each : menus)
+        for (const QVariant& entry : each.value<Menu>().entries)
+            if (auto item = entry.value<MenuEntry>(); !item.separator())
+                items.push_back(std::move(item));
+    return items;
 }
 
 void runOnWindow(Command command) {
@@ -67,19 +99,30 @@ void runOnWindow(Command command) {
 
 }  // namespace
 
-QString MenuEntry::keys() const {
-    return QKeySequence(shortcut, QKeySequence::PortableText).toString(QKeySequence::NativeText);
+MenuCommands::MenuCommands(AppModel& model) : model_(model) {
+    connect(&model_, &AppModel::configChanged, this, &MenuCommands::follow);
+    connect(&model_.runner(), &Runner::stateChanged, this, &MenuCommands::follow);
+    follow();
 }
 
-QStringList MenuEntry::sequences() const {
-    const QLatin1String mainReturn("Return");
-    QStringList all(shortcut);
-    if (shortcut.endsWith(mainReturn))
-        all.append(shortcut.chopped(mainReturn.size()) + "Enter"_L1);
-    return all;
+void MenuCommands::follow() {
+    become({.covered = now_.covered,
+            .agreed = model_.termsAccepted(),
+            .paused = model_.runner().state == Runner::State::paused});
 }
 
-MenuCommands::MenuCommands(AppModel& model) : model_(model) {}
+void MenuCommands::setContentCovered(bool covered) {
+    Circumstances then = now_;
+    then.covered = covered;
+    become(then);
+}
+
+void MenuCommands::become(Circumstances circumstances) {
+    if (circumstances == now_)
+        return;
+    now_ = circumstances;
+    Q_EMIT offersChanged();
+}
 
 QVariantList MenuCommands::menus() const {
     return {applicationMenu(),
@@ -90,6 +133,44 @@ QVariantList MenuCommands::menus() const {
                                item(u"Zoom"_s, u""_s, Command::zoom)}),
             menu(u"Help"_s, {item(u"Terms of Use"_s, u""_s, Command::terms),
                              item(u"Pacing and Safeguards"_s, u""_s, Command::safeguards)})};
+}
+
+QVariantList MenuCommands::shortcuts() const {
+    QVariantList heard;
+    for (const MenuEntry& item : itemsOf(menus()))
+        if (!item.shortcut.isEmpty() && reachOf(item.command) != Reach::text)
+            heard.append(QVariant::fromValue(item));
+    return heard;
+}
+
+QVariantList MenuCommands::offers() const {
+    QVariantList offered;
+    for (MenuEntry& item : itemsOf(menus())) {
+        item.enabled = isOffered(item.command);
+        if (item.command == Command::send && now_.paused)
+            item.shortcut.clear();
+        const auto place = static_cast<qsizetype>(item.command);
+        offered.resize(std::max(offered.size(), place + 1));
+        offered[place] = QVariant::fromValue(item);
+    }
+    return offered;
+}
+
+bool MenuCommands::isOffered(Command command) const {
+    switch (reachOf(command)) {
+        case Reach::agreed:
+            return now_.agreed;
+        case Reach::content:
+            return contentOffered();
+        case Reach::application:
+        case Reach::text:
+            break;
+    }
+    return true;
+}
+
+bool MenuCommands::meansWindow(Command command) {
+    return command == Command::close || reachOf(command) == Reach::content;
 }
 
 void MenuCommands::run(Command command) {

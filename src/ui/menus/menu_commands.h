@@ -2,91 +2,13 @@
 
 #include <QObject>
 #include <QString>
-#include <QStringList>
 #include <QVariantList>
 #include <QtQmlIntegration>
 
 #include "app/app_model.h"
+#include "ui/controls/menu_entry.h"
 
 namespace velmora {
-
-/// The application's menus: what they hold and what each item does.
-class MenuCommands final : public QObject {
-    Q_OBJECT
-    Q_CLASSINFO("RegisterEnumClassesUnscoped", "false")
-    QML_ELEMENT
-    QML_UNCREATABLE("Belongs to the presentation")
-    Q_PROPERTY(QVariantList menus READ menus CONSTANT)
-
-  public:
-    enum class Command {
-        none,  ///< a divider
-        about,
-        settings,
-        quit,
-        close,
-        undo,
-        redo,
-        cut,
-        copy,
-        paste,
-        selectAllText,
-        selectShown,
-        clearShown,
-        reload,
-        send,
-        minimize,
-        zoom,
-        terms,
-        safeguards
-    };
-    Q_ENUM(Command)
-
-    /// Where an item is offered and its shortcut heard: everywhere, everywhere once the terms are
-    /// accepted, in the main window while nothing covers its content, or in the text field that has
-    /// the keyboard.
-    enum class Reach { application, agreed, content, text };
-    Q_ENUM(Reach)
-
-    explicit MenuCommands(AppModel& model);
-
-    /// The menus in their order, each a `Menu`.
-    [[nodiscard]] QVariantList menus() const;
-    /// Does what the item says, at once.
-    Q_INVOKABLE void run(velmora::MenuCommands::Command command);
-
-  Q_SIGNALS:
-    void aboutRequested();
-
-  private:
-    AppModel& model_;
-};
-
-/// One item of a menu.
-struct MenuEntry {
-    Q_GADGET
-    Q_PROPERTY(QString text MEMBER text)
-    Q_PROPERTY(QString shortcut MEMBER shortcut)
-    Q_PROPERTY(QString keys READ keys)
-    Q_PROPERTY(QStringList sequences READ sequences)
-    Q_PROPERTY(bool enabled MEMBER enabled)
-    Q_PROPERTY(bool separator READ separator)
-    Q_PROPERTY(velmora::MenuCommands::Command command MEMBER command)
-    Q_PROPERTY(velmora::MenuCommands::Reach reach MEMBER reach)
-
-  public:
-    /// The shortcut as the desktop writes it.
-    [[nodiscard]] QString keys() const;
-    /// All that press the shortcut, Return on the keypad included.
-    [[nodiscard]] QStringList sequences() const;
-    [[nodiscard]] bool separator() const { return command == MenuCommands::Command::none; }
-
-    QString text;
-    QString shortcut;  ///< in portable form, where Ctrl is the Mac's Command; may be empty
-    MenuCommands::Command command = MenuCommands::Command::none;
-    MenuCommands::Reach reach = MenuCommands::Reach::application;
-    bool enabled = true;  ///< whether it can be chosen, wherever it is offered
-};
 
 /// One menu of the bar.
 struct Menu {
@@ -99,6 +21,59 @@ struct Menu {
     QString title;
     bool application = false;  ///< the application's own, which a Mac makes from the items' roles
     QVariantList entries;      ///< each a `MenuEntry`
+};
+
+/// The application's menus: what they hold, what each item does, and when it is offered.
+class MenuCommands final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Belongs to the presentation")
+    Q_PROPERTY(QVariantList menus READ menus CONSTANT)
+    Q_PROPERTY(QVariantList shortcuts READ shortcuts CONSTANT)
+    Q_PROPERTY(QVariantList offers READ offers NOTIFY offersChanged)
+    Q_PROPERTY(bool contentOffered READ contentOffered NOTIFY offersChanged)
+
+  public:
+    /// `model` outlives it.
+    explicit MenuCommands(AppModel& model);
+
+    /// The menus in their order, each a `Menu`.
+    [[nodiscard]] QVariantList menus() const;
+    /// The items whose keys are to be listened for where the menus are drawn: those with a shortcut
+    /// but for the Edit menu's, which a text field answers itself. Each a `MenuEntry`.
+    [[nodiscard]] QVariantList shortcuts() const;
+    /// Every item as it stands now, each a `MenuEntry` at the place of its command's value:
+    /// disabled where it is not offered, and without a shortcut while its keys are another's.
+    [[nodiscard]] QVariantList offers() const;
+    /// Whether what acts on the main window's content is offered: nothing covers it.
+    [[nodiscard]] bool contentOffered() const { return !now_.covered; }
+    /// Whether the command means the window in front, and its keys are heard there alone.
+    Q_INVOKABLE static bool meansWindow(velmora::menus::Command command);
+
+    /// Tells whether something covers the main window's content; at first nothing does.
+    void setContentCovered(bool covered);
+    /// Does what the item says, at once.
+    Q_INVOKABLE void run(velmora::menus::Command command);
+
+  Q_SIGNALS:
+    void offersChanged();
+    void aboutRequested();
+
+  private:
+    /// What the offers hang on.
+    struct Circumstances {
+        bool covered = false;
+        bool agreed = false;  ///< to the terms, before which no test text must go out
+        bool paused = false;  ///< then Command-Return belongs to the Resume button
+        bool operator==(const Circumstances&) const = default;
+    };
+
+    void follow();
+    void become(Circumstances circumstances);
+    [[nodiscard]] bool isOffered(menus::Command command) const;
+
+    AppModel& model_;
+    Circumstances now_;
 };
 
 }  // namespace velmora

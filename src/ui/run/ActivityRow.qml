@@ -56,13 +56,11 @@ Item {
             text: row.entry.name
             Accessible.ignored: true
         }
-        BodyText {
+        CaptionText {
             width: parent.width
             visible: text.length > 0
             text: row.entry.details
             Accessible.ignored: true
-            color: Theme.secondary
-            font.pixelSize: Theme.caption
         }
     }
     FixedDigitsText {

@@ -13,25 +13,17 @@ ColumnLayout {
     implicitHeight: 120 + heading.implicitHeight + spacing
     spacing: 8
 
-    BodyText {
+    SectionHeading {
         id: heading
         text: "Activity"
-        font.pixelSize: Theme.headline
-        font.weight: Font.DemiBold
-        Accessible.role: Accessible.Heading
     }
-    Rectangle {
+    FieldSurface {
         Layout.fillWidth: true
         Layout.fillHeight: true
         Layout.minimumHeight: 120
-        radius: 8
-        color: Theme.textBackground
+        radius: Theme.boxRadius
         border.color: Theme.separator
-
-        FocusRing {
-            cornerRadius: 8
-            shown: list.activeFocus
-        }
+        focused: list.activeFocus
 
         ListView {
             id: list

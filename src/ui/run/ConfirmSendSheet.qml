@@ -8,6 +8,11 @@ SheetFrame {
 
     required property ConfirmModel model
 
+    component RowLabel: BodyText {
+        Layout.alignment: Qt.AlignRight
+        color: Theme.secondary
+    }
+
     title: model.title
     defaultWidth: 480
     onCancelled: model.cancel()
@@ -18,16 +23,14 @@ SheetFrame {
         visible: sheet.model.exampleCaption.length > 0
         spacing: 6
 
-        BodyText {
+        CaptionText {
             Layout.fillWidth: true
             text: sheet.model.exampleCaption
-            color: Theme.secondary
-            font.pixelSize: Theme.caption
         }
         Rectangle {
             Layout.fillWidth: true
             implicitHeight: Math.min(240, example.implicitHeight + 24)
-            radius: 12
+            radius: Theme.largeRadius
             color: Theme.quaternary
 
             ScrollArea {
@@ -54,26 +57,14 @@ SheetFrame {
         columnSpacing: 12
         rowSpacing: 10
 
-        BodyText {
-            Layout.alignment: Qt.AlignRight
-            text: "From"
-            color: Theme.secondary
-        }
+        RowLabel { text: "From" }
         BodyText { text: sheet.model.from }
-        BodyText {
-            Layout.alignment: Qt.AlignRight
-            text: "Pace"
-            color: Theme.secondary
-        }
+        RowLabel { text: "Pace" }
         BodyText {
             Layout.fillWidth: true
             text: sheet.model.pace
         }
-        BodyText {
-            Layout.alignment: Qt.AlignRight
-            text: "Run name"
-            color: Theme.secondary
-        }
+        RowLabel { text: "Run name" }
         TextEntry {
             Layout.preferredWidth: 240
             accessibleName: "Run name"
@@ -82,11 +73,9 @@ SheetFrame {
             onEdited: text => sheet.model.setRunName(text)
         }
     }
-    BodyText {
+    CaptionText {
         Layout.fillWidth: true
         text: "Keep your Mac open and your iPhone on until it finishes. Sending the same run again skips anyone already sent."
-        color: Theme.secondary
-        font.pixelSize: Theme.caption
     }
     buttons: [
         PushButton {

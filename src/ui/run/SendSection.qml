@@ -7,16 +7,14 @@ import Velmora
 ColumnLayout {
     id: section
 
-    required property ComposeModel model
+    required property RunModel model
 
-    readonly property bool ready: model.stage === ComposeModel.Stage.ready
-    readonly property bool paused: model.stage === ComposeModel.Stage.paused
-    readonly property bool going: model.stage === ComposeModel.Stage.running || paused
+    readonly property bool ready: model.stage === RunModel.Stage.ready
+    readonly property bool paused: model.stage === RunModel.Stage.paused
+    readonly property bool going: model.stage === RunModel.Stage.running || paused
 
-    component StatusLine: BodyText {
+    component StatusLine: CaptionText {
         text: section.model.status
-        color: Theme.secondary
-        font.pixelSize: Theme.caption
     }
 
     spacing: 10

@@ -57,11 +57,6 @@ QString paceLine(const AppConfig& config) {
            u" seconds apart"_s;
 }
 
-QString messageHint(const QString& message) {
-    return message.contains("---"_L1) ? u"Each person always gets the same version."_s
-                                      : u"Insert adds a first name, a note, or another version."_s;
-}
-
 ActivityEntry activityEntry(const LogEntry& entry) {
     ActivityEntry shown{
         .name = entry.name,

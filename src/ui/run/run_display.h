@@ -46,10 +46,6 @@ struct ActivityEntry {
 /// does not fit into 64 bits is written with its decimals or exponent, or as "inf" or "nan".
 [[nodiscard]] QString paceLine(const AppConfig& config);
 
-/// The note under the message: who gets which version once there are several, before that what the
-/// "Insert" menu brings.
-[[nodiscard]] QString messageHint(const QString& message);
-
 /// One line of the send log.
 [[nodiscard]] ActivityEntry activityEntry(const LogEntry& entry);
 

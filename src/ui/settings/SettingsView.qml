@@ -9,6 +9,13 @@ FocusScope {
 
     required property SettingsModel settings
 
+    component Seconds: NumberEntry {
+        enabled: !view.settings.locked
+    }
+    component TimeOfDay: ClockPicker {
+        enabled: !view.settings.locked
+    }
+
     implicitWidth: 500
     implicitHeight: form.implicitHeight + 40
     focus: true
@@ -37,15 +44,9 @@ FocusScope {
                     onChosen: index => view.settings.chooseSender(index)
                 }
             }
-            BodyText {
-                Layout.fillWidth: true
-                Layout.leftMargin: 10
-                Layout.rightMargin: 10
-                Layout.bottomMargin: 10
+            FormNote {
                 visible: view.settings.numbersMissing
                 text: "Velmora found no number on this Mac. In Messages, choose Settings, then iMessage, and tick your phone number."
-                color: Theme.secondary
-                font.pixelSize: Theme.callout
             }
         }
 
@@ -57,17 +58,13 @@ FocusScope {
             FormRow {
                 title: "Wait between texts"
 
-                NumberEntry {
-                    Layout.preferredWidth: 44
-                    enabled: !view.settings.locked
+                Seconds {
                     value: view.settings.delayMin
                     accessibleName: "Shortest wait between texts in seconds"
                     onValueEdited: value => view.settings.delayMin = value
                 }
                 BodyText { text: "to" }
-                NumberEntry {
-                    Layout.preferredWidth: 44
-                    enabled: !view.settings.locked
+                Seconds {
                     value: view.settings.delayMax
                     accessibleName: "Longest wait between texts in seconds"
                     onValueEdited: value => view.settings.delayMax = value
@@ -78,16 +75,14 @@ FocusScope {
             FormRow {
                 title: "Send between"
 
-                ClockPicker {
-                    enabled: !view.settings.locked
+                TimeOfDay {
                     hour: view.settings.startHour
                     minute: view.settings.startMinute
                     accessibleName: "From"
                     onPicked: (hour, minute) => view.settings.setStart(hour, minute)
                 }
                 BodyText { text: "and" }
-                ClockPicker {
-                    enabled: !view.settings.locked
+                TimeOfDay {
                     hour: view.settings.endHour
                     minute: view.settings.endMinute
                     accessibleName: "Until"
@@ -129,15 +124,8 @@ FocusScope {
                     onClicked: view.settings.sendTest()
                 }
             }
-            BodyText {
-                Layout.fillWidth: true
-                Layout.leftMargin: 10
-                Layout.rightMargin: 10
-                Layout.bottomMargin: 10
-                visible: text.length > 0
+            FormNote {
                 text: view.settings.testResult
-                color: Theme.secondary
-                font.pixelSize: Theme.callout
             }
         }
     }

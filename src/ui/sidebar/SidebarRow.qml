@@ -42,7 +42,7 @@ Item {
         size: 18
         color: row.lit ? Theme.overAccent : Theme.accentText
     }
-    BodyText {
+    LineText {
         anchors.verticalCenter: parent.verticalCenter
         anchors.left: icon.right
         anchors.right: number.left
@@ -50,8 +50,6 @@ Item {
         anchors.rightMargin: Theme.gap
         text: row.name
         color: row.lit ? Theme.overAccent : Theme.primary
-        wrapMode: Text.NoWrap
-        elide: Text.ElideRight
         Accessible.ignored: true
     }
     FixedDigitsText {

@@ -36,7 +36,7 @@ Rectangle {
         currentIndex: sidebar.model.currentRow
         highlightFollowsCurrentItem: false
         enabled: sidebar.model.enabled
-        opacity: enabled ? 1 : 0.45
+        opacity: enabled ? 1 : Theme.disabledOpacity
         activeFocusOnTab: true
         keyNavigationEnabled: false
         boundsBehavior: Flickable.StopAtBounds

@@ -38,11 +38,9 @@ Window {
             font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading
         }
-        BodyText {
+        CaptionText {
             anchors.horizontalCenter: parent.horizontalCenter
             text: "Version " + Qt.application.version
-            color: Theme.secondary
-            font.pixelSize: Theme.caption
         }
     }
 }

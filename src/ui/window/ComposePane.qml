@@ -8,16 +8,17 @@ import Velmora
 Item {
     id: pane
 
-    required property ComposeModel model
+    required property ComposeModel compose
+    required property RunModel run
     required property ActivityModel activity
 
     /// Whether the log has its place, which it has from the start of a run: its first line moves
     /// nothing.
-    readonly property bool steady: model.showsActivity || model.stage !== ComposeModel.Stage.ready
+    readonly property bool steady: run.showsActivity || run.stage !== RunModel.Stage.ready
 
     EmptyState {
         anchors.fill: parent
-        visible: !pane.model.showsComposer
+        visible: !pane.compose.showsComposer
         icon: "text.bubble"
         title: "Your message"
         message: "Choose a list to write the message and send it."
@@ -27,7 +28,7 @@ Item {
     Flickable {
         id: flick
         anchors.fill: parent
-        visible: pane.model.showsComposer
+        visible: pane.compose.showsComposer
         contentHeight: column.height + 32
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
@@ -45,36 +46,18 @@ Item {
             MessageSection {
                 id: message
                 Layout.fillWidth: true
-                model: pane.model
+                model: pane.compose
                 steady: pane.steady
             }
-            ColumnLayout {
+            SenderSection {
                 Layout.fillWidth: true
                 Layout.fillHeight: false
-                spacing: 8
-
-                BodyText {
-                    text: "Send from"
-                    font.pixelSize: Theme.headline
-                    font.weight: Font.DemiBold
-                    Accessible.role: Accessible.Heading
-                }
-                MenuButton {
-                    Layout.fillWidth: true
-                    enabled: !pane.model.locked
-                    symbol: "iphone"
-                    text: pane.model.senderTitle
-                    help: "The number your texts come from"
-                    entries: pane.model.senderEntries
-                    marksColumn: true
-                    markedIndex: pane.model.senderIndex
-                    onChosen: index => pane.model.chooseSender(index)
-                }
+                model: pane.compose
             }
             SendSection {
                 Layout.fillWidth: true
                 Layout.fillHeight: false
-                model: pane.model
+                model: pane.run
             }
             Item {
                 Layout.fillWidth: true
@@ -84,7 +67,7 @@ Item {
                 ActivityView {
                     id: log
                     anchors.fill: parent
-                    visible: pane.model.showsActivity
+                    visible: pane.run.showsActivity
                     model: pane.activity
                 }
             }

@@ -65,7 +65,8 @@ UnspokenArea {
                     Layout.minimumWidth: content.composeWidth
                     Layout.maximumWidth: content.composeWidth
                     Layout.fillHeight: true
-                    model: content.presentation.compose
+                    compose: content.presentation.compose
+                    run: content.presentation.run
                     activity: content.presentation.activity
                 }
             }

@@ -18,21 +18,17 @@ Item {
         anchors.rightMargin: Theme.padding
         spacing: 1
 
-        BodyText {
+        LineText {
             width: parent.width
             text: header.title
             font.pixelSize: Theme.title3
             font.weight: Font.DemiBold
-            wrapMode: Text.NoWrap
-            elide: Text.ElideRight
             Accessible.role: Accessible.Heading
         }
-        BodyText {
+        CaptionText {
             width: parent.width
             visible: text.length > 0
             text: header.subtitle
-            color: Theme.secondary
-            font.pixelSize: Theme.caption
             wrapMode: Text.NoWrap
             elide: Text.ElideRight
         }

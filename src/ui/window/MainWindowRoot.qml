@@ -30,17 +30,16 @@ T.ApplicationWindow {
     menuBar: WindowMenuBar {
         id: bar
         visible: !root.nativeMenus
-        enabled: root.presentation.window.commandsEnabled
         commands: root.presentation.menus
     }
     MenuShortcuts {
         active: !root.nativeMenus
-        presentation: root.presentation
+        commands: root.presentation.menus
     }
     Loader {
         active: root.nativeMenus
         Component.onCompleted: if (active) setSource("NativeMenuBar.qml", {
-            presentation: root.presentation
+            commands: root.presentation.menus
         })
     }
 

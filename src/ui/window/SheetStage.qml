@@ -28,9 +28,8 @@ FocusScope {
         Column {
             id: holder
 
-            // A repeater of one: no loader makes a component that is bound to another file.
-            Repeater {
-                model: stage.held ? 1 : 0
+            MadeWhenWanted {
+                wanted: stage.held
                 delegate: stage.sheet
             }
         }

@@ -8,9 +8,14 @@ Presentation::Presentation(AppModel& model)
       sidebar_(model),
       recipients_(model),
       compose_(model),
+      run_(model),
       activity_(model.runner()),
       confirm_(model),
       settings_(model),
-      firstRun_(model) {}
+      firstRun_(model) {
+    const auto followCover = [this] { menus_.setContentCovered(!window_.commandsEnabled()); };
+    connect(&window_, &MainWindowModel::changed, this, followCover);
+    followCover();
+}
 
 }  // namespace velmora

@@ -10,6 +10,7 @@
 #include "ui/recipients/recipients_model.h"
 #include "ui/run/activity_model.h"
 #include "ui/run/confirm_model.h"
+#include "ui/run/run_model.h"
 #include "ui/settings/settings_model.h"
 #include "ui/sidebar/sidebar_model.h"
 #include "ui/window/main_window_model.h"
@@ -26,6 +27,7 @@ class Presentation final : public QObject {
     Q_PROPERTY(velmora::SidebarModel* sidebar READ sidebar CONSTANT)
     Q_PROPERTY(velmora::RecipientsModel* recipients READ recipients CONSTANT)
     Q_PROPERTY(velmora::ComposeModel* compose READ compose CONSTANT)
+    Q_PROPERTY(velmora::RunModel* run READ run CONSTANT)
     Q_PROPERTY(velmora::ActivityModel* activity READ activity CONSTANT)
     Q_PROPERTY(velmora::ConfirmModel* confirm READ confirm CONSTANT)
     Q_PROPERTY(velmora::SettingsModel* settings READ settings CONSTANT)
@@ -40,6 +42,7 @@ class Presentation final : public QObject {
     [[nodiscard]] SidebarModel* sidebar() { return &sidebar_; }
     [[nodiscard]] RecipientsModel* recipients() { return &recipients_; }
     [[nodiscard]] ComposeModel* compose() { return &compose_; }
+    [[nodiscard]] RunModel* run() { return &run_; }
     [[nodiscard]] ActivityModel* activity() { return &activity_; }
     [[nodiscard]] ConfirmModel* confirm() { return &confirm_; }
     [[nodiscard]] SettingsModel* settings() { return &settings_; }
@@ -51,6 +54,7 @@ class Presentation final : public QObject {
     SidebarModel sidebar_;
     RecipientsModel recipients_;
     ComposeModel compose_;
+    RunModel run_;
     ActivityModel activity_;
     ConfirmModel confirm_;
     SettingsModel settings_;

@@ -7,6 +7,7 @@
 #include "ui/compose/compose_model.h"
 #include "ui/run/activity_model.h"
 #include "ui/run/run_display.h"
+#include "ui/run/run_model.h"
 
 namespace velmora {
 
@@ -96,26 +97,26 @@ TEST_F(RunModels, InsertsGoToTheEndAndTheNumberIsChosenFromAll) {
 
 // Catches a send section that offers what the run's state forbids or hides how it stands.
 TEST_F(RunModels, TheSendSectionFollowsTheRun) {
-    using Stage = ComposeModel::Stage;
+    using Stage = RunModel::Stage;
     ComposeModel compose(withFriends());
-    EXPECT_FALSE(compose.canSend() || compose.showsStatus() || compose.showsActivity());
+    RunModel run(*model);
+    EXPECT_FALSE(run.canSend() || run.showsStatus() || run.showsActivity());
     model->selectShown();
     model->startRun();
     world.clock.advance(0.1);
-    EXPECT_EQ(compose.stage(), Stage::running);
-    EXPECT_EQ(compose.status(), u"0 of 3 \u00B7 Sending to Ann Lee\u2026"_s);
+    EXPECT_EQ(run.stage(), Stage::running);
+    EXPECT_EQ(run.status(), u"0 of 3 \u00B7 Sending to Ann Lee\u2026"_s);
     world.clock.advance(25);
-    EXPECT_TRUE(compose.status().startsWith(u"1 of 3 \u00B7 Next in "_s))
-        << compose.status().toStdString();
-    EXPECT_EQ(compose.progress() / compose.progressTotal(), 1.0 / 3);
-    EXPECT_TRUE(compose.showsActivity());
+    EXPECT_TRUE(run.status().startsWith(u"1 of 3 \u00B7 Next in "_s)) << run.status().toStdString();
+    EXPECT_EQ(run.progress() / run.progressTotal(), 1.0 / 3);
+    EXPECT_TRUE(run.showsActivity());
     compose.setMessage(u"Too late"_s);
     EXPECT_NE(compose.message(), u"Too late"_s);
-    compose.stop();
-    EXPECT_EQ(compose.stage(), Stage::stopping);
+    run.stop();
+    EXPECT_EQ(run.stage(), Stage::stopping);
     ASSERT_TRUE(world.clock.runUntilIdle());
-    EXPECT_EQ(compose.stage(), Stage::ready);
-    EXPECT_EQ(compose.status(), u"1 of 3 \u00B7 Stopped after 1 of 3."_s);
+    EXPECT_EQ(run.stage(), Stage::ready);
+    EXPECT_EQ(run.status(), u"1 of 3 \u00B7 Stopped after 1 of 3."_s);
 }
 
 }  // namespace
