@@ -79,7 +79,7 @@ std::expected<Descriptor, FileError> openOrdinary(const char* verb, const QStrin
     // Without waiting: a pipe would have the call wait for its other end.
     Descriptor file(::open(QFile::encodeName(path).constData(),
                            flags | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, ownerMode));
-    struct stat status {};
+    struct stat status{};
     if (file.get() < 0 || ::fstat(file.get(), &status) != 0)
         return failure(verb, path, errno);
     if (!S_ISREG(status.st_mode))
@@ -137,13 +137,13 @@ std::expected<QByteArray, FileError> readFile(const QString& path) {
 }
 
 std::expected<void, FileError> replaceFile(const QString& path, const QByteArray& bytes) {
-    struct stat status {};
+    struct stat status{};
     const bool exists = ::stat(QFile::encodeName(path).constData(), &status) == 0;
     if (exists && !S_ISREG(status.st_mode))
         return failure("write", path, u"it is no ordinary file"_s);
     QSaveFile file(path);
-    const bool opened = file.open(QIODevice::WriteOnly) ||
-                        (makeFolderOf(path) && file.open(QIODevice::WriteOnly));
+    const bool opened =
+        file.open(QIODevice::WriteOnly) || (makeFolderOf(path) && file.open(QIODevice::WriteOnly));
     // commit() alone reports success on a full disk when everything was still in its buffer, and
     // puts an empty file in place of the old one.
     const bool written = opened && file.setPermissions(ownerFile) &&
@@ -168,7 +168,7 @@ std::expected<void, FileError> appendToFile(const QString& path, const QByteArra
     const auto file = openOrdinary("open", path, O_WRONLY | O_APPEND);
     if (!file)
         return std::unexpected(file.error());
-    struct stat status {};
+    struct stat status{};
     if (::fstat(file->get(), &status) != 0)
         return failure("write", path, errno);
     if ((status.st_mode & othersMode) != 0)
@@ -187,7 +187,7 @@ std::expected<void, FileError> appendToFile(const QString& path, const QByteArra
 
 void makeFilePrivate(const QString& path) {
     const QByteArray name = QFile::encodeName(path);
-    struct stat status {};
+    struct stat status{};
     if (::stat(name.constData(), &status) == 0 && S_ISREG(status.st_mode) &&
         (status.st_mode & othersMode) != 0)
         static_cast<void>(::chmod(name.constData(), status.st_mode & ~othersMode & 07777));
