@@ -7,7 +7,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <algorithm>
 #include <cerrno>
 #include <utility>
@@ -18,9 +17,9 @@ namespace velmora {
 
 namespace {
 
-constexpr QFile::Permissions ownerFile = QFile::ReadOwner | QFile::WriteOwner;
-constexpr QFile::Permissions ownerFolder = ownerFile | QFile::ExeOwner;
+constexpr QFile::Permissions ownerFolder = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
 constexpr mode_t ownerMode = S_IRUSR | S_IWUSR;
+const QString notOrdinary = u"it is no ordinary file"_s;
 constexpr mode_t othersMode = S_IRWXG | S_IRWXO;
 
 /// An open file, closed with it.
@@ -83,7 +82,7 @@ std::expected<Descriptor, FileError> openOrdinary(const char* verb, const QStrin
     if (file.get() < 0 || ::fstat(file.get(), &status) != 0)
         return failure(verb, path, errno);
     if (!S_ISREG(status.st_mode))
-        return failure(verb, path, u"it is no ordinary file"_s);
+        return failure(verb, path, notOrdinary);
     return file;
 }
 
@@ -102,10 +101,6 @@ int writeError(int handle, const QByteArray& bytes) {
     return 0;
 }
 
-bool makeFolderOf(const QString& path) {
-    return createPrivateFolder(QFileInfo(path).absolutePath()).has_value();
-}
-
 std::expected<void, FileError> createInFolder(const QString& path, const QByteArray& bytes) {
     const auto file = openOrdinary("create", path, O_WRONLY | O_CREAT | O_EXCL);
     if (!file)
@@ -117,8 +112,16 @@ std::expected<void, FileError> createInFolder(const QString& path, const QByteAr
         ::unlink(QFile::encodeName(path).constData());
         return failure("write", path, error);
     }
-    syncFolderOf(path);
     return {};
+}
+
+// The same where the folder may have to be made first.
+std::expected<void, FileError> makeFile(const QString& path, const QByteArray& bytes) {
+    auto made = createInFolder(path, bytes);
+    const bool noFolder = !made && made.error().kind == FileError::Kind::missing;
+    if (noFolder && createPrivateFolder(QFileInfo(path).absolutePath()))
+        made = createInFolder(path, bytes);
+    return made;
 }
 
 }  // namespace
@@ -137,30 +140,37 @@ std::expected<QByteArray, FileError> readFile(const QString& path) {
 }
 
 std::expected<void, FileError> replaceFile(const QString& path, const QByteArray& bytes) {
+    const QByteArray name = QFile::encodeName(path);
     struct stat status{};
-    const bool exists = ::stat(QFile::encodeName(path).constData(), &status) == 0;
+    const bool exists = ::lstat(name.constData(), &status) == 0;
+    if (exists && S_ISLNK(status.st_mode)) {
+        const QString target = QFileInfo(path).canonicalFilePath();
+        return target.isEmpty() ? failure("write", path, u"it is a link to nothing"_s)
+                                : replaceFile(target, bytes);
+    }
     if (exists && !S_ISREG(status.st_mode))
-        return failure("write", path, u"it is no ordinary file"_s);
-    QSaveFile file(path);
-    const bool opened =
-        file.open(QIODevice::WriteOnly) || (makeFolderOf(path) && file.open(QIODevice::WriteOnly));
-    // commit() alone reports success on a full disk when everything was still in its buffer, and
-    // puts an empty file in place of the old one.
-    const bool written = opened && file.setPermissions(ownerFile) &&
-                         file.write(bytes) == bytes.size() && file.flush();
-    if (const int error = written ? syncError(file.handle()) : 0; error != 0)
-        return failure("write", path, error);
-    if (!written || !file.commit())
-        return failure("write", path, file.errorString());
-    syncFolderOf(path);
-    return {};
+        return failure("write", path, notOrdinary);
+    // A file that may not be written may not be replaced, either.
+    if (exists && ::faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS) != 0)
+        return failure("write", path, errno);
+    // Beside it under a fixed name, so that what a killed program leaves there is taken next time.
+    const QString fresh = path + u".new"_s;
+    const QByteArray freshName = QFile::encodeName(fresh);
+    ::unlink(freshName.constData());
+    if (auto made = makeFile(fresh, bytes); !made)
+        return made;
+    if (::rename(freshName.constData(), name.constData()) == 0)
+        return {};
+    const int error = errno;
+    ::unlink(freshName.constData());
+    return failure("write", path, error);
 }
 
 std::expected<void, FileError> createFile(const QString& path, const QByteArray& bytes) {
-    // The only thing that can be missing is the folder.
-    const auto made = createInFolder(path, bytes);
-    const bool noFolder = !made && made.error().kind == FileError::Kind::missing;
-    return noFolder && makeFolderOf(path) ? createInFolder(path, bytes) : made;
+    auto made = makeFile(path, bytes);
+    if (made)
+        syncFolderOf(path);
+    return made;
 }
 
 std::expected<void, FileError> appendToFile(const QString& path, const QByteArray& bytes,

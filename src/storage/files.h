@@ -25,14 +25,15 @@ struct FileError {
 [[nodiscard]] std::expected<QByteArray, FileError> readFile(const QString& path);
 
 /// Replaces the file by `bytes` in one step: a reader, and a computer that loses its power, has the
-/// old file or the whole new one. The new file is readable by its owner alone, and on the disk when
-/// this returns, as far as the file system can tell; a missing folder is made. On failure the old
-/// file stands.
+/// old file or the whole new one. The new file is readable by its owner alone, and its bytes are on
+/// the disk before it takes the old one's place; its place is as safe as the file system's next
+/// write-through makes it. A missing folder is made. On failure the old file stands.
 [[nodiscard]] std::expected<void, FileError> replaceFile(const QString& path,
                                                          const QByteArray& bytes);
 
-/// Makes the file with `bytes`, otherwise as replaceFile does. Fails where there is one already,
-/// and leaves none behind when it fails.
+/// Makes the file with `bytes`, readable by its owner alone and on the disk when this returns. A
+/// missing folder is made. Fails where there is a file already, and leaves none behind when it
+/// fails.
 [[nodiscard]] std::expected<void, FileError> createFile(const QString& path,
                                                         const QByteArray& bytes);
 

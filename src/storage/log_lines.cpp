@@ -46,11 +46,6 @@ bool isPhone(QStringView text) {
            normalizePhone(text.toString());
 }
 
-// How many entries the text can have. A row has 8 characters or more; line feeds alone are none.
-qsizetype entryCount(const QString& text) {
-    return std::min(text.count(u'\n'), text.size() / 8);
-}
-
 // The text as a string of its own, or `previous` once more: most columns repeat from row to row.
 QString sharedWith(const QString& previous, QStringView text) {
     return previous == text ? previous : text.toString();
@@ -73,6 +68,28 @@ bool isBlank(const CSVReader& row) {
     return row.fieldCount() == 1 && row.field(0).isEmpty();
 }
 
+// Calls `take` with the reader at each row that is an entry. Whether there is nothing but these and
+// the header; a last row that was cut off counts for nothing.
+template <class Take>
+bool readRows(const QByteArray& bytes, const Take& take) {
+    const QByteArray whole = bytes.chopped(halfCharacterSize(bytes));
+    if (!whole.isValidUtf8())
+        return false;
+    const QString text = QString::fromUtf8(whole);
+    const bool isTorn = !bytes.endsWith('\n');
+    CSVReader rows(text);
+    bool understood = !rows.nextRow() || isHeader(rows) || (isTorn && rows.isLast());
+    while (rows.nextRow()) {
+        const bool isEntry = rows.fieldCount() >= Column::columnCount;
+        if (isEntry)
+            take(rows);
+        if (isEntry ? !isPhone(rows.field(Column::phone))
+                    : !isBlank(rows) && !(isTorn && rows.isLast()))
+            understood = false;
+    }
+    return understood;
+}
+
 }  // namespace
 
 const QByteArray& logHeader() {
@@ -86,28 +103,31 @@ QString csvLine(const LogEntry& entry) {
 }
 
 ParsedLog parseLog(const QByteArray& bytes, Moment now) {
-    const QByteArray whole = bytes.chopped(halfCharacterSize(bytes));
     ParsedLog log;
-    log.understood = whole.isValidUtf8();
-    if (!log.understood)
-        return log;
-    const QString text = QString::fromUtf8(whole);
-    const bool isTorn = !bytes.endsWith('\n');
     const LogEntry none;
-    CSVReader rows(text);
-    if (rows.nextRow())
-        log.understood = isHeader(rows) || (isTorn && rows.isLast());
-    log.entries.reserve(static_cast<size_t>(entryCount(text)));
-    while (rows.nextRow()) {
-        if (rows.fieldCount() >= Column::columnCount) {
-            const LogEntry& previous = log.entries.empty() ? none : log.entries.back();
-            log.entries.push_back(entryOf(rows, previous, now));
-            log.understood = log.understood && isPhone(log.entries.back().phone);
-        } else if (!isBlank(rows) && !(isTorn && rows.isLast())) {
-            log.understood = false;
-        }
-    }
+    log.understood = readRows(bytes, [&](const CSVReader& row) {
+        const LogEntry& previous = log.entries.empty() ? none : log.entries.back();
+        log.entries.push_back(entryOf(row, previous, now));
+    });
     return log;
+}
+
+SentPhones parseSentPhones(const QByteArray& bytes) {
+    SentPhones sent;
+    sent.understood = readRows(bytes, [&sent](const CSVReader& row) {
+        if (isSentStatus(row.field(Column::status)))
+            insertForms(row.field(Column::phone).toString(), sent.phones);
+    });
+    return sent;
+}
+
+void insertForms(const QString& phone, QSet<QString>& phones) {
+    phones.insert(phone);
+    if (phone.startsWith(u'+'))
+        return;
+    for (const auto& form : {normalizePhone(phone), normalizePhone(u'+' + phone)})
+        if (form)
+            phones.insert(*form);
 }
 
 LogRepair repairOf(const QByteArray& bytes) {

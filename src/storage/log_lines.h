@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QSet>
 #include <QString>
 #include <vector>
 
@@ -26,6 +27,19 @@ struct ParsedLog {
 /// The entries of a log, a half character at its end aside; none when it is no UTF-8. Rows of fewer
 /// than 8 fields are skipped; a time that cannot be read is `now`.
 [[nodiscard]] ParsedLog parseLog(const QByteArray& bytes, Moment now);
+
+struct SentPhones {
+    QSet<QString> phones;
+    bool understood = true;  ///< as of a parsed log
+};
+
+/// The phones of the same entries whose status begins with "sent", each in the forms of
+/// `insertForms`.
+[[nodiscard]] SentPhones parseSentPhones(const QByteArray& bytes);
+
+/// Adds the phone as it stands in a log, and as Velmora would have written it: a spreadsheet takes
+/// the "+" for a sign and drops it.
+void insertForms(const QString& phone, QSet<QString>& phones);
 
 /// What has to go from the end of a torn log and what has to come there before another line, which
 /// would otherwise become a part of the torn one.

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "core/fresh_id.h"
-#include "core/phone.h"
 #include "storage/files.h"
 #include "storage/log_lines.h"
 #include "storage/log_name.h"
@@ -18,17 +17,6 @@ using Kind = FileError::Kind;
 
 QByteArray lineOf(const LogEntry& entry) {
     return csvLine(entry).toUtf8();
-}
-
-// Adds the phone as it stands there, and as Velmora would have written it: a spreadsheet takes a
-// "+" for a sign and drops it.
-void insertForms(const QString& phone, QSet<QString>& phones) {
-    phones.insert(phone);
-    if (phone.startsWith(u'+'))
-        return;
-    for (const auto& form : {normalizePhone(phone), normalizePhone(u'+' + phone)})
-        if (form)
-            phones.insert(*form);
 }
 
 }  // namespace
@@ -128,19 +116,43 @@ void SendLog::rewrite(const QString& batch, const std::vector<LogEntry>& entries
     if (!replaceFile(path, bytes))
         return;
     std::erase_if(waiting_, [&path](const Change& each) { return each.path == path; });
-    remember({.path = path, .hash = qHash(bytes), .understood = true});
+    lastRead_.hash = qHash(bytes);
+}
+
+QByteArray SendLog::read(const QString& path) {
+    retry();
+    makeFilePrivate(path);
+    const auto bytes = readFile(path);
+    lastRead_ = {.path = path,
+                 .hash = qHash(bytes.value_or(QByteArray())),
+                 .understood = bytes || bytes.error().kind == Kind::missing};
+    return bytes.value_or(QByteArray());
+}
+
+void SendLog::judge(bool understood) {
+    lastRead_.understood = lastRead_.understood && understood;
+    if (lastRead_.understood)
+        puzzling_.remove(lastRead_.path);
+    else
+        puzzling_.insert(lastRead_.path);
 }
 
 std::vector<LogEntry> SendLog::load(const QString& batch) {
-    retry();
     const QString path = logFile(batch);
-    makeFilePrivate(path);
-    const auto bytes = readFile(path);
-    ParsedLog log = parseLog(bytes.value_or(QByteArray()), clock_.now());
-    log.understood = log.understood && (bytes || bytes.error().kind == Kind::missing);
-    remember({path, qHash(bytes.value_or(QByteArray())), log.understood});
+    ParsedLog log = parseLog(read(path), clock_.now());
+    judge(log.understood);
     addWaiting(log.entries, path);
     return std::move(log.entries);
+}
+
+QSet<QString> SendLog::alreadySent(const QString& batch) {
+    const QString path = logFile(batch);
+    SentPhones sent = parseSentPhones(read(path));
+    judge(sent.understood);
+    for (const Change& each : waiting_)
+        if (each.path == path && isSentStatus(each.after.status))
+            insertForms(each.after.phone, sent.phones);
+    return sent.phones;
 }
 
 void SendLog::addWaiting(std::vector<LogEntry>& entries, const QString& path) const {
@@ -154,22 +166,6 @@ void SendLog::addWaiting(std::vector<LogEntry>& entries, const QString& path) co
         entry = each.after;
         entry.id = freshID();
     }
-}
-
-void SendLog::remember(Reading reading) {
-    if (reading.understood)
-        puzzling_.remove(reading.path);
-    else
-        puzzling_.insert(reading.path);
-    lastRead_ = std::move(reading);
-}
-
-QSet<QString> SendLog::alreadySent(const QString& batch) {
-    QSet<QString> phones;
-    for (const LogEntry& entry : load(batch))
-        if (isSentStatus(entry.status))
-            insertForms(entry.phone, phones);
-    return phones;
 }
 
 bool SendLog::isUnderstood(const QString& batch) {

@@ -79,7 +79,8 @@ class SendLog {
     [[nodiscard]] static bool writeBlindly(const QString& path, const std::vector<Change>& changes);
     void add(Change change);
     void addWaiting(std::vector<LogEntry>& entries, const QString& path) const;
-    void remember(Reading reading);
+    [[nodiscard]] QByteArray read(const QString& path);
+    void judge(bool understood);
 
     SupportFolder& folder_;
     const Clock& clock_;
