@@ -116,7 +116,8 @@ class AppModel final : public AppState {
     void selectGroup(const QString& listID);
     /// Reads and checks the people of the chosen list, and checks again who was checked in it; does
     /// nothing without a list. A list that cannot be read leaves people and selection as they were
-    /// and puts a sentence into `alert`. A run that is active keeps its name, log and texts.
+    /// and puts a sentence into `alert`; so does, once for each run name, a log that does not tell
+    /// who was texted. A run that is active keeps its name, log and texts.
     void loadList();
     [[nodiscard]] const std::vector<Recipient>& recipients() const { return recipients_; }
     /// Indexes into `recipients` of those that the search and the filter leave, in order.
@@ -156,8 +157,8 @@ class AppModel final : public AppState {
     /// Does nothing during a run and before the terms are accepted.
     void requestRun();
     /// Ends the confirmation and starts the run. A run name edited meanwhile has the list loaded
-    /// first; when that unchecks anyone, nothing is sent and `alert` says so. Called only while no
-    /// run is active.
+    /// first; when that unchecks anyone, or finds a log that does not tell who was texted, nothing
+    /// is sent and `alert` says so. Called only while no run is active.
     void confirmRun();
     /// Starts a run of everyone checked who can be sent, or sets `alert` to why none can start.
     /// While one is active, that one goes on alone.
@@ -176,6 +177,7 @@ class AppModel final : public AppState {
     // The list (app_model_list.cpp).
     [[nodiscard]] std::vector<Recipient> checked(const std::vector<ContactRecord>& people);
     void publish(std::vector<Recipient> list);
+    void tellOfLog();
     void restorePicks(const QString& listID);
     void restoreSelection(const QSet<QString>& selection);
 
@@ -202,6 +204,7 @@ class AppModel final : public AppState {
     RecipientSearch search_;
     QSet<QString> selection_;
     QString loadedBatch_;
+    QSet<QString> toldOf_;  // the run names whose logs do not tell who was texted
     bool suppressPickSave_ = false;
 };
 

@@ -1,3 +1,4 @@
+#include <QDir>
 #include <QScopedValueRollback>
 #include <utility>
 
@@ -39,6 +40,7 @@ void AppModel::loadList() {
             runner_.batch = batchName.value();
             runner_.reloadLog();
         }
+        tellOfLog();
     } else {
         alert = u"Couldn't read that list: "_s + people.error().description;
     }
@@ -57,6 +59,16 @@ std::vector<Recipient> AppModel::checked(const std::vector<ContactRecord>& peopl
         list.push_back(check.next(person));
     sortByName(list, [](const Recipient& recipient) { return recipient.name; });
     return list;
+}
+
+void AppModel::tellOfLog() {
+    if (sendLog_.isUnderstood(loadedBatch_) || toldOf_.contains(loadedBatch_))
+        return;
+    toldOf_.insert(loadedBatch_);
+    alert =
+        u"Velmora can't tell from the log %1 who was already texted in the run \"%2\". Mend the "
+        "file or choose another run name, or they may be texted again."_s.arg(
+            QDir::toNativeSeparators(sendLog_.logFile(loadedBatch_)), loadedBatch_);
 }
 
 void AppModel::publish(std::vector<Recipient> list) {

@@ -68,8 +68,11 @@ void AppModel::confirmRun() {
     confirmingRun = false;
     // The people and not their number: the other name may check someone for each that it unchecks.
     const QSet<QString> before = selection_;
+    const qsizetype told = toldOf_.size();
     if (batchName.value() != loadedBatch_)
         loadList();
+    if (toldOf_.size() != told)
+        return;
     if (selection_ == before)
         return startRun();
     alert =

@@ -51,9 +51,6 @@ class Runner::Pause {
 Runner::Runner(Tools tools) : tools_(std::move(tools)) {}
 
 Runner::~Runner() {
-    // Messages has the text, whatever the history says later: nobody may get it again.
-    if (inHand_)
-        tools_.sendLog.append(*inHand_);
     life_.reset();
     if (resumeContinuation_)
         resumeContinuation_->abandon();
@@ -74,6 +71,7 @@ void Runner::start(const QString& batch, const std::vector<Item>& items, const A
     sendAnyway_ = false;
     stopRequested_ = false;
     pending_.clear();
+    inHand_.reset();
     failures_ = 0;
     failedCount_ = 0;
     done = 0;
@@ -85,7 +83,11 @@ void Runner::start(const QString& batch, const std::vector<Item>& items, const A
 }
 
 std::vector<Runner::Item> Runner::itemsToSend(const std::vector<Item>& items, qint64 limit) const {
-    const QSet<QString> sent = tools_.sendLog.alreadySent(batch);
+    QSet<QString> sent = tools_.sendLog.alreadySent(batch);
+    // The history may have settled lines that could not be written.
+    for (const LogEntry& entry : log_)
+        if (isSentStatus(entry.status))
+            sent.insert(entry.phone);
     std::vector<Item> queue;
     std::ranges::copy_if(items, std::back_inserter(queue),
                          [&sent](const Item& item) { return !sent.contains(item.phone); });
@@ -142,7 +144,7 @@ QCoro::Task<bool> Runner::handleItem(Item item) {
         co_return false;
     current = item.name;
     const LogEntry entry = co_await sendOne(item);
-    tools_.sendLog.append(entry);
+    putDown(entry);
     inHand_.reset();
     log_.push_back(entry);
     Q_EMIT logAppended();
@@ -229,6 +231,7 @@ QCoro::Task<> Runner::sleep(double seconds) {
 }
 
 void Runner::finish() {
+    tools_.sendLog.retry();
     activity_.reset();
     current = std::nullopt;
     nextIn = std::nullopt;

@@ -53,9 +53,9 @@ class Runner final : public QObject {
     };
 
     explicit Runner(Tools tools);
-    /// Ends an active run on the spot; nothing touches the runner afterwards. A text in hand, which
-    /// Messages has and the log does not, is logged as unverified. What of the run still waits is
-    /// freed when the clock calls it, so the clock goes last.
+    /// Ends an active run on the spot; nothing touches the runner afterwards. A text in hand stands
+    /// in the log as unverified. What of the run still waits is freed when the clock calls it, so
+    /// the clock goes last.
     ~Runner() override;
 
     /// True while a run is running, paused or stopping.
@@ -78,7 +78,8 @@ class Runner final : public QObject {
     void reloadLog();
 
     /// The send-log lines of `batch`: earlier runs' first, then this run's in the order they were
-    /// made.
+    /// made. In the file, the line of a text stands before the text leaves; here, once its outcome
+    /// is known.
     [[nodiscard]] const std::vector<LogEntry>& log() const { return log_; }
 
   Q_SIGNALS:
@@ -141,8 +142,9 @@ class Runner final : public QObject {
 
     // Verification (runner_verification.cpp).
     QCoro::Task<LogEntry> sendOne(Item item);
-    /// `logged`: whether the text has a line in the log already, which the attempt replaces.
+    /// `logged`: whether the person has a line in the log already, which the attempt replaces.
     QCoro::Task<Attempt> attempt(Item item, Service service, QString label, bool logged = false);
+    void putDown(const LogEntry& line);
     QCoro::Task<bool> checkLine(LogEntry entry, Item item);
     QCoro::Task<bool> checkFailures();
     QCoro::Task<> checkPending();
@@ -161,7 +163,7 @@ class Runner final : public QObject {
     bool stopRequested_ = false;
     Pause* resumeContinuation_ = nullptr;
     std::unique_ptr<Activity> activity_;
-    // The line of a text that Messages has and the log does not have yet.
+    // The line of the text in hand, as it stands in the log.
     std::optional<LogEntry> inHand_;
     std::vector<Pending> pending_;
     std::vector<LogEntry> log_;

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include "core/fresh_id.h"
 #include "core/phone.h"
@@ -43,6 +44,13 @@ QCoro::Task<LogEntry> Runner::sendOne(Item item) {
 QCoro::Task<Runner::Attempt> Runner::attempt(Item item, Service service, QString label,
                                              bool logged) {
     const std::weak_ptr<Life> life = life_;
+    // What cannot be taken back is written down first: whatever ends the program from here on,
+    // nobody gets the text a second time.
+    if (!logged) {
+        LogEntry line = newEntry(item);
+        describeOutcome(line, label, std::nullopt);
+        putDown(line);
+    }
     const qint64 since = historyTimestamp(clock().now());
     const auto handed = tools_.sender.send(item.phone, service, item.text);
     unwindWithout(life);
@@ -52,10 +60,6 @@ QCoro::Task<Runner::Attempt> Runner::attempt(Item item, Service service, QString
         describeRefusal(result.entry, label, handed.error());
         co_return result;
     }
-    if (!logged) {
-        inHand_ = newEntry(item);
-        describeOutcome(*inHand_, label, std::nullopt);
-    }
     result.record = co_await waitForSentRecord(tools_.surroundings, tools_.historyPath, item.phone,
                                                since, config_.verifyWait);
     unwindWithout(life);
@@ -64,6 +68,14 @@ QCoro::Task<Runner::Attempt> Runner::attempt(Item item, Service service, QString
     if (result.entry.status == statusUnverified)
         pending_.push_back({item, since, service, label, result.entry.id});
     co_return result;
+}
+
+void Runner::putDown(const LogEntry& line) {
+    if (inHand_)
+        tools_.sendLog.replace(*inHand_, line);
+    else
+        tools_.sendLog.append(line);
+    inHand_ = line;
 }
 
 QCoro::Task<bool> Runner::checkLine(LogEntry entry, Item item) {
@@ -124,8 +136,7 @@ void Runner::replaceEntry(const QUuid& id, const LogEntry& entry) {
     const auto line = std::ranges::find(log_, id, &LogEntry::id);
     if (line == log_.end())
         return;
-    *line = entry;
-    tools_.sendLog.rewrite(batch, log_);
+    tools_.sendLog.replace(std::exchange(*line, entry), entry);
     Q_EMIT logEntryChanged(std::distance(log_.begin(), line));
 }
 

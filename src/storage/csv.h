@@ -20,6 +20,9 @@ class CSVReader {
     /// Goes to the next row; false when there is none. A line end at the end begins no row.
     [[nodiscard]] bool nextRow();
 
+    /// Whether the text ends with the row.
+    [[nodiscard]] bool isLast() const { return position_ == text_.size(); }
+
     /// How many fields the row has, at least 1.
     [[nodiscard]] size_t fieldCount() const { return fields_.size(); }
 

@@ -1,237 +1,179 @@
 #include "storage/send_log.h"
 
-#include <QCryptographicHash>
-#include <QFile>
-#include <QFileInfo>
 #include <algorithm>
 #include <iterator>
-#include <optional>
 #include <utility>
 
 #include "core/fresh_id.h"
-#include "storage/csv.h"
 #include "storage/files.h"
-#include "storage/log_time.h"
-
-using namespace Qt::StringLiterals;
+#include "storage/log_lines.h"
+#include "storage/log_name.h"
 
 namespace velmora {
 
 namespace {
 
-enum Column : size_t { time, batch, name, phone, service, line, status, detail, columnCount };
+using Kind = FileError::Kind;
 
-const QString& headerLine() {
-    static const QString text = u"time,batch,name,phone,service,line,status,detail\n"_s;
-    return text;
-}
-
-// How many bytes a last character has of which only the first part is there, as a loss of power in
-// the middle of a write leaves it.
-qsizetype halfCharacterSize(const QByteArray& bytes) {
-    qsizetype begin = bytes.size() - 1;
-    while (begin > 0 && (bytes[begin] & 0xC0) == 0x80)
-        --begin;
-    const bool isHalf =
-        begin >= 0 && (bytes[begin] & 0xC0) == 0xC0 && !bytes.sliced(begin).isValidUtf8();
-    return isHalf ? bytes.size() - begin : 0;
-}
-
-// What has to go from the end of a torn file and what has to come there before another line, which
-// would otherwise become a part of the torn one.
-struct Repair {
-    qsizetype surplus = 0;
-    QByteArray ending;
-};
-
-Repair repairOf(const QByteArray& bytes) {
-    const qsizetype surplus = halfCharacterSize(bytes);
-    const QByteArray kept = bytes.chopped(surplus);
-    // In another encoding it may be a whole character.
-    if (!kept.isValidUtf8())
-        return {0, bytes.endsWith('\n') ? "" : "\n"};
-    // Every quote opens or closes, a doubled one both.
-    if (kept.count('"') % 2 != 0)
-        return {surplus, "\"\n"};
-    return {surplus, kept.isEmpty() || kept.endsWith('\n') ? "" : "\n"};
-}
-
-// The text of a log, up to a half character at its end; nothing when it is no UTF-8.
-std::optional<QString> readableText(const QByteArray& bytes) {
-    const QByteArray whole = bytes.chopped(halfCharacterSize(bytes));
-    return whole.isValidUtf8() ? std::optional(QString::fromUtf8(whole)) : std::nullopt;
-}
-
-// The same of the file, empty where there is none; nothing when it cannot be read.
-std::optional<QString> logText(const QString& path) {
-    const auto bytes = readFile(path);
-    if (bytes)
-        return readableText(*bytes);
-    return QFile::exists(path) ? std::nullopt : std::optional(QString());
-}
-
-// The stem as it is where a file can have that name; else its beginning and what only this stem
-// gives.
-QString fittingStem(const QString& stem) {
-    // File systems take 255 bytes: ".csv" is added to them, and ".XXXXXX" while the file is
-    // replaced.
-    constexpr qsizetype longest = 244;
-    if (QFile::encodeName(stem).size() <= longest)
-        return stem;
-    const QByteArray name = QCryptographicHash::hash(stem.toUtf8(), QCryptographicHash::Sha256);
-    const QString ending = u'-' + QString::fromLatin1(name.toHex().first(16));
-    QString beginning = stem.left(longest);
-    while (beginning.back().isHighSurrogate() ||
-           QFile::encodeName(beginning).size() + ending.size() > longest)
-        beginning.chop(1);
-    return beginning + ending;
-}
-
-// How many entries the text can have. A row has 8 characters or more; line feeds alone are none.
-qsizetype entryCount(const QString& text) {
-    return std::min(text.count(u'\n'), text.size() / 8);
-}
-
-// Calls `take` with the reader at each row of the text that is an entry.
-template <class Take>
-void readEntryRows(const QString& text, const Take& take) {
-    CSVReader rows(text);
-    if (!rows.nextRow())
-        return;
-    while (rows.nextRow())
-        if (rows.fieldCount() >= Column::columnCount)
-            take(rows);
-}
-
-// The text as a string of its own, or `previous` once more: most columns repeat from row to row.
-QString sharedWith(const QString& previous, QStringView text) {
-    return previous == text ? previous : text.toString();
-}
-
-LogEntry entryOf(const CSVReader& row, const LogEntry& previous) {
-    return {.id = freshID(),
-            .time = {},
-            .batch = sharedWith(previous.batch, row.field(Column::batch)),
-            .name = row.field(Column::name).toString(),
-            .phone = row.field(Column::phone).toString(),
-            .service = sharedWith(previous.service, row.field(Column::service)),
-            .line = sharedWith(previous.line, row.field(Column::line)),
-            .status = sharedWith(previous.status, row.field(Column::status)),
-            .detail = sharedWith(previous.detail, row.field(Column::detail))};
+QByteArray lineOf(const LogEntry& entry) {
+    return csvLine(entry).toUtf8();
 }
 
 }  // namespace
 
+bool SendLog::write(const QString& path, const std::vector<Change>& changes) {
+    const auto old = readFile(path);
+    const bool missing = !old && old.error().kind == Kind::missing;
+    if (!old && !missing)
+        return writeBlindly(path, changes);
+    const LogRepair repair = repairOf(old.value_or(QByteArray()));
+    QByteArray kept = old.value_or(QByteArray()).chopped(repair.surplus);
+    QByteArray added;
+    bool replaced = false;
+    for (const Change& change : changes) {
+        const QByteArray line = lineOf(change.after);
+        const qsizetype place = change.before.isEmpty() ? -1 : lastPlaceOf(change.before, kept);
+        if (place >= 0)
+            kept.replace(place, change.before.size(), line);
+        else if (!change.triedBefore || lastPlaceOf(line, kept) < 0)
+            added += line;
+        replaced = replaced || place >= 0;
+    }
+    if (!added.isEmpty())
+        added.prepend(kept.isEmpty() ? logHeader() : repair.ending);
+    if (replaced)
+        return replaceFile(path, kept + added).has_value();
+    if (added.isEmpty())
+        return true;
+    return (missing ? createFile(path, added) : appendToFile(path, added, repair.surplus))
+        .has_value();
+}
+
+// Whatever the file holds, the lines are added. The first begins a line of its own.
+bool SendLog::writeBlindly(const QString& path, const std::vector<Change>& changes) {
+    QByteArray lines("\n");
+    for (const Change& change : changes)
+        lines += lineOf(change.after);
+    return appendToFile(path, lines).has_value();
+}
+
 void SendLog::append(const LogEntry& entry) {
-    unwritten_.push_back({.path = logFile(entry.batch), .entry = entry});
-    writeAll();
+    add({.path = logFile(entry.batch), .before = {}, .after = entry});
+}
+
+void SendLog::replace(const LogEntry& before, const LogEntry& after) {
+    add({.path = logFile(after.batch), .before = lineOf(before), .after = after});
+}
+
+void SendLog::add(Change change) {
+    // What it replaces may wait to be written itself.
+    const auto earlier = std::ranges::find_if(waiting_, [&change](const Change& each) {
+        return each.path == change.path && lineOf(each.after) == change.before;
+    });
+    if (earlier == waiting_.end()) {
+        waiting_.push_back(std::move(change));
+    } else {
+        earlier->after = std::move(change.after);
+        // A write that failed may have left it in the file all the same.
+        if (earlier->before.isEmpty())
+            earlier->before = std::move(change.before);
+    }
+    retry();
+}
+
+void SendLog::retry() {
+    std::vector<Change> left = std::exchange(waiting_, {});
+    while (!left.empty()) {
+        const QString path = left.front().path;
+        const auto others = std::ranges::stable_partition(
+            left, [&path](const Change& each) { return each.path == path; });
+        std::vector<Change> changes(std::make_move_iterator(left.begin()),
+                                    std::make_move_iterator(others.begin()));
+        left.erase(left.begin(), others.begin());
+        bool written = false;
+        // A second time for a file that has come or gone just then.
+        for (int turn = 0; turn < 2 && !written; ++turn) {
+            written = write(path, changes);
+            for (Change& each : changes)
+                each.triedBefore = true;
+        }
+        if (!written)
+            std::ranges::move(changes, std::back_inserter(waiting_));
+    }
 }
 
 void SendLog::rewrite(const QString& batch, const std::vector<LogEntry>& entries) {
-    QString text = headerLine();
-    for (const LogEntry& entry : entries)
-        text += csvLine(entry);
     const QString path = logFile(batch);
-    std::erase_if(unwritten_, [&](const Unwritten& each) { return each.path == path; });
-    // Lines that could not be read, then or now, are not among the entries.
-    if (!unread_.contains(path) && logText(path) && replaceFile(path, text.toUtf8()))
+    const auto old = readFile(path);
+    const bool readable = old || old.error().kind == Kind::missing;
+    const bool isThatRead =
+        readable && path == lastRead_.path && qHash(old.value_or(QByteArray())) == lastRead_.hash;
+    if (!isThatRead || !lastRead_.understood)
         return;
-    QSet<QString> lines;
-    for (const LogEntry& entry : entries) {
-        const QString line = csvLine(entry);
-        if (!lines.contains(line))
-            unwritten_.push_back({.path = path, .entry = entry, .unlessThere = true});
-        lines.insert(line);
-    }
-    writeAll();
+    QByteArray bytes = logHeader();
+    for (const LogEntry& entry : entries)
+        bytes += lineOf(entry);
+    if (!replaceFile(path, bytes))
+        return;
+    std::erase_if(waiting_, [&path](const Change& each) { return each.path == path; });
+    lastRead_.hash = qHash(bytes);
 }
 
-void SendLog::writeAll() {
-    const std::vector<Unwritten> waiting = std::exchange(unwritten_, {});
-    std::ranges::copy_if(waiting, std::back_inserter(unwritten_),
-                         [](const Unwritten& each) { return !each.write(); });
+QByteArray SendLog::read(const QString& path) {
+    retry();
+    makeFilePrivate(path);
+    const auto bytes = readFile(path);
+    lastRead_ = {.path = path,
+                 .hash = qHash(bytes.value_or(QByteArray())),
+                 .understood = bytes || bytes.error().kind == Kind::missing};
+    return bytes.value_or(QByteArray());
 }
 
-bool SendLog::Unwritten::write() const {
-    const QByteArray line = csvLine(entry).toUtf8();
-    const QByteArray old = readFile(path).value_or(QByteArray());
-    if (unlessThere && old.contains(line))
-        return true;
-    const Repair repair = repairOf(old);
-    // An empty file needs the header, too: its first line is skipped when it is read.
-    const bool isEmpty = QFileInfo(path).size() == repair.surplus;
-    const QByteArray bytes = (isEmpty ? headerLine().toUtf8() : repair.ending) + line;
-    const auto done =
-        QFile::exists(path) ? appendToFile(path, bytes, repair.surplus) : replaceFile(path, bytes);
-    return done.has_value();
+void SendLog::judge(bool understood) {
+    lastRead_.understood = lastRead_.understood && understood;
+    if (lastRead_.understood)
+        puzzling_.remove(lastRead_.path);
+    else
+        puzzling_.insert(lastRead_.path);
 }
 
 std::vector<LogEntry> SendLog::load(const QString& batch) {
-    writeAll();
     const QString path = logFile(batch);
-    const std::optional<QString> found = logText(path);
-    if (found)
-        unread_.remove(path);
-    else
-        unread_.insert(path);
-    const QString text = found.value_or(QString());
-    std::vector<LogEntry> entries;
-    const LogEntry none;
-    entries.reserve(static_cast<size_t>(entryCount(text)));
-    readEntryRows(text, [&](const CSVReader& row) {
-        const auto time = parseLogTime(row.field(Column::time));
-        entries.push_back(entryOf(row, entries.empty() ? none : entries.back()));
-        entries.back().time = time ? *time : clock_.now();
-    });
-    for (const Unwritten& each : unwritten_) {
-        if (each.path != path)
-            continue;
-        entries.push_back(each.entry);
-        entries.back().id = freshID();
-    }
-    return entries;
+    ParsedLog log = parseLog(read(path), clock_.now());
+    judge(log.understood);
+    addWaiting(log.entries, path);
+    return std::move(log.entries);
 }
 
 QSet<QString> SendLog::alreadySent(const QString& batch) {
-    writeAll();
     const QString path = logFile(batch);
-    const QString text = logText(path).value_or(QString());
-    QSet<QString> phones;
-    phones.reserve(entryCount(text));
-    readEntryRows(text, [&](const CSVReader& row) {
-        if (isSentStatus(row.field(Column::status)))
-            phones.insert(row.field(Column::phone).toString());
-    });
-    for (const Unwritten& each : unwritten_)
-        if (each.path == path && isSentStatus(each.entry.status))
-            phones.insert(each.entry.phone);
-    return phones;
+    SentPhones sent = parseSentPhones(read(path));
+    judge(sent.understood);
+    for (const Change& each : waiting_)
+        if (each.path == path && isSentStatus(each.after.status))
+            insertForms(each.after.phone, sent.phones);
+    return sent.phones;
+}
+
+void SendLog::addWaiting(std::vector<LogEntry>& entries, const QString& path) const {
+    for (const Change& each : waiting_) {
+        if (each.path != path)
+            continue;
+        const auto before = std::ranges::find_if(
+            entries.rbegin(), entries.rend(),
+            [&each](const LogEntry& entry) { return lineOf(entry) == each.before; });
+        LogEntry& entry = before != entries.rend() ? *before : entries.emplace_back();
+        entry = each.after;
+        entry.id = freshID();
+    }
+}
+
+bool SendLog::isUnderstood(const QString& batch) {
+    return !puzzling_.contains(logFile(batch));
 }
 
 QString SendLog::logFile(const QString& batch) {
-    return folder_.logs() + u'/' + fittingStem(safeFileStem(batch)) + u".csv"_s;
-}
-
-QString safeFileStem(const QString& batch) {
-    QString stem;
-    for (const char32_t scalar : batch.toUcs4()) {
-        const bool isKept = QChar::isLetterOrNumber(scalar) || QChar::isMark(scalar) ||
-                            scalar == U'-' || scalar == U'_';
-        if (isKept)
-            stem += QChar::fromUcs4(scalar);
-        else
-            stem += u'-';
-    }
-    while (stem.startsWith(u'-'))
-        stem.remove(0, 1);
-    while (stem.endsWith(u'-'))
-        stem.chop(1);
-    return stem.isEmpty() ? u"batch"_s : stem;
-}
-
-QString csvLine(const LogEntry& entry) {
-    return formatCSV({formatLogTime(entry.time), entry.batch, entry.name, entry.phone,
-                      entry.service, entry.line, entry.status, entry.detail});
+    return folder_.logs() + u'/' + logFileName(batch);
 }
 
 }  // namespace velmora

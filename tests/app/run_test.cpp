@@ -95,6 +95,34 @@ TEST_F(Run, GoesFromTheListToTheLogAndNeverTextsAnyoneTwice) {
     EXPECT_TRUE(model->alert.value().has_value());
 }
 
+// Catches a log that another program saved in a way of its own and that counts, without a word, as
+// nobody having been texted.
+TEST_F(Run, ALogThatDoesNotTellWhoWasTextedIsToldOnce) {
+    ready();
+    const QString first = model->batchName;
+    SupportFolder folder(home.applicationSupport());
+    const QString path = SendLog(folder, world.clock).logFile(u"Party"_s);
+    writeTestFile(path, "time;batch;name;phone\n2025;Party;Ann;+12125550101\n");
+    request();
+    model->batchName = u"Party"_s;
+    model->confirmRun();
+    EXPECT_FALSE(model->runner().isActive());
+    EXPECT_EQ(model->alert.value(), u"Velmora can't tell from the log "_s + path +
+                                        u" who was already texted in the run \"Party\". Mend the "
+                                        "file or choose another run name, or they may be texted "
+                                        "again."_s);
+    model->alert = std::nullopt;
+    model->loadList();
+    EXPECT_FALSE(model->alert.value());
+    model->confirmRun();
+    EXPECT_TRUE(model->runner().isActive()) << "who knows better may send";
+    EXPECT_TRUE(world.clock.runUntilIdle());
+    EXPECT_EQ(names(u"Party"_s).size(), 2);
+    model->batchName = first;
+    model->confirmRun();
+    EXPECT_FALSE(model->alert.value());
+}
+
 // Catches a run that starts where it must not, or a refusal that names the wrong reason.
 TEST_F(Run, IsRefusedForTheFirstReasonThatHolds) {
     withFriends().editConfig([](AppConfig& config) {

@@ -8,6 +8,7 @@
 #include "sending/runner.h"
 #include "sending/send_outcome.h"
 #include "storage/files.h"
+#include "storage/log_lines.h"
 #include "support/rehearsal_home.h"
 #include "support/virtual_surroundings.h"
 
@@ -15,15 +16,18 @@ namespace velmora {
 
 using namespace Qt::StringLiterals;
 
-/// Passes scripts on to the rehearsal's Messages and counts them.
+/// Passes scripts on to the rehearsal's Messages, counts them, and lets a test look around first.
 struct CountedScripts final : ScriptRunner {
     explicit CountedScripts(ScriptRunner& messages) : messages(messages) {}
     [[nodiscard]] ScriptResult run(const QString& source) override {
         ++count;
+        if (before)
+            before();
         return messages.run(source);
     }
 
     int count = 0;
+    std::function<void()> before;
     ScriptRunner& messages;
 };
 

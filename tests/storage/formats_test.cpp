@@ -4,8 +4,9 @@
 #include <random>
 
 #include "storage/config_store.h"
+#include "storage/csv.h"
+#include "storage/log_name.h"
 #include "storage/log_time.h"
-#include "storage/send_log.h"
 
 using namespace Qt::StringLiterals;
 

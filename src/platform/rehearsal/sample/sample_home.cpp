@@ -64,15 +64,11 @@ qint64 historyDate(Moment now, double daysAgo) {
     return static_cast<qint64>((now.seconds - (daysAgo * 86400)) * 1e9);
 }
 
-std::expected<void, FileError> place(const QString& path, const QByteArray& bytes) {
-    if (auto folder = createPrivateFolder(QFileInfo(path).path()); !folder)
-        return folder;
-    return replaceFile(path, bytes);
-}
-
 std::expected<void, FileError> placeSample(const QString& name, const QString& path) {
-    const auto bytes = readFile(u":/rehearsal/"_s + name);
-    return bytes ? place(path, *bytes) : std::unexpected(bytes.error());
+    QFile sample(u":/rehearsal/"_s + name);
+    if (!sample.open(QIODevice::ReadOnly))
+        return std::unexpected(FileError{sample.errorString()});
+    return replaceFile(path, sample.readAll());
 }
 
 // Each conversation: a question, its answer half an hour later, and a last word.
@@ -141,7 +137,7 @@ std::expected<void, FileError> prepareSampleHome(const QString& home, Moment now
         return done;
     if (auto done = fillHistory(library + u"/Messages/chat.db"_s, now); !done)
         return done;
-    return place(home + u"/.local/share/Velmora/config.json"_s, settings.toUtf8());
+    return replaceFile(home + u"/.local/share/Velmora/config.json"_s, settings.toUtf8());
 }
 
 }  // namespace velmora
