@@ -29,9 +29,9 @@ FocusScope {
 
     implicitHeight: childrenRect.height
 
-    // A repeater of one or none: most rows need neither, and making a field is what costs.
-    Repeater {
-        model: line.showsOffer ? 1 : 0
+    // Most rows need neither, and making a field is what costs.
+    MadeWhenWanted {
+        wanted: line.showsOffer
 
         PushButton {
             kind: PushButton.Link
@@ -43,8 +43,8 @@ FocusScope {
             onClicked: line.enter()
         }
     }
-    Repeater {
-        model: line.showsField ? 1 : 0
+    MadeWhenWanted {
+        wanted: line.showsField
 
         TextEntry {
             width: line.width

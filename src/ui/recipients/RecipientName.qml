@@ -13,24 +13,20 @@ Item {
 
     implicitHeight: nameText.implicitHeight
 
-    BodyText {
+    LineText {
         id: nameText
         width: Math.max(0, Math.min(implicitWidth, line.room))
         text: line.entry.name
         font.pixelSize: Theme.headline
         font.weight: Font.DemiBold
-        wrapMode: Text.NoWrap
-        elide: Text.ElideRight
     }
-    BodyText {
+    LineText {
         id: companyText
         x: nameText.width + line.gap
         width: Math.max(0, Math.min(implicitWidth, line.room - x))
         visible: text.length > 0 && line.room - x > 2 * Theme.body
         text: line.entry.company
         color: Theme.colorOf(Look.Tone.secondary, line.entry.faint)
-        wrapMode: Text.NoWrap
-        elide: Text.ElideRight
     }
     LabelWithSymbol {
         id: sent

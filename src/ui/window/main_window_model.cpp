@@ -128,19 +128,11 @@ bool MainWindowModel::commandsEnabled() const {
     return sheet() == Sheet::none && !alertShown();
 }
 
-bool MainWindowModel::settingsEnabled() const {
-    return sheet() != Sheet::terms;
-}
-
 bool MainWindowModel::mayClose() {
     if (!model_.runner().isActive())
         return true;
     model_.alert = u"A run is still going. Stop it and let it end, then close Velmora."_s;
     return false;
-}
-
-bool MainWindowModel::paused() const {
-    return model_.runner().state == Runner::State::paused;
 }
 
 void MainWindowModel::windowShown() {

@@ -47,8 +47,6 @@ class MainWindowModel final : public QObject {
     Q_PROPERTY(QString alertText READ alertText NOTIFY changed)
     Q_PROPERTY(Sheet sheet READ sheet NOTIFY changed)
     Q_PROPERTY(bool commandsEnabled READ commandsEnabled NOTIFY changed)
-    Q_PROPERTY(bool settingsEnabled READ settingsEnabled NOTIFY changed)
-    Q_PROPERTY(bool paused READ paused NOTIFY changed)
 
   public:
     /// The sheets that can cover the window; at most one at a time.
@@ -81,13 +79,9 @@ class MainWindowModel final : public QObject {
 
     /// Whether the commands that act on the window's content are offered: nothing covers it.
     [[nodiscard]] bool commandsEnabled() const;
-    /// Whether the settings are offered: a test text must not go out before the terms are accepted.
-    [[nodiscard]] bool settingsEnabled() const;
     /// Whether the main window may close, and the application end with it. During a run it answers
     /// false and the alert says what to do first.
     Q_INVOKABLE bool mayClose();
-    /// Whether a run is paused: then Command-Return belongs to its Resume button.
-    [[nodiscard]] bool paused() const;
 
     /// Starts the application model, at the first call only.
     void windowShown();
