@@ -2,6 +2,7 @@
 #include <QIcon>
 
 #include "app/app_model.h"
+#include "core/end_signals.h"
 #include "core/system_surroundings.h"
 #include "platform/platform.h"
 #include "ui/window/main_window.h"
@@ -12,11 +13,12 @@ using namespace velmora;
 
 /// Makes the world, the model and the window, and lets them live until the user quits.
 int main(int argc, char** argv) {
-    const QGuiApplication application(argc, argv);
+    QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(u"Velmora"_s);
     QGuiApplication::setOrganizationName(u"Velmora"_s);
     QGuiApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
     QGuiApplication::setDesktopFileName(u"velmora"_s);
+    endAtSignals(application);
 
     SystemClock clock;
     SystemRandomSource random;

@@ -83,7 +83,7 @@ class MainWindowModel final : public QObject {
     /// Whether the settings are offered: a test text must not go out before the terms are accepted.
     [[nodiscard]] bool settingsEnabled() const;
     /// Whether the main window may close, and the application end with it. During a run it answers
-    /// false and the alert says what to do first.
+    /// false and the alert says what to do first, except at the end of the computer's session.
     Q_INVOKABLE bool mayClose();
     /// Whether a run is paused: then Command-Return belongs to its Resume button.
     [[nodiscard]] bool paused() const;

@@ -1,5 +1,6 @@
 #include "ui/window/main_window_model.h"
 
+#include <QGuiApplication>
 #include <QSignalSpy>
 
 #include "app/app_home.h"
@@ -54,6 +55,19 @@ TEST_F(WindowModels, StartOnceAndLookAgainOnlyWhenNeeded) {
         window.applicationActivated();
         EXPECT_EQ(model->numbersCheckedAt.value().has_value(), !readable);
     }
+}
+
+// Catches a run that holds up the end of the computer's session, or one that anybody may close.
+TEST_F(WindowModels, ARunIsClosedOnlyByTheEndOfTheSession) {
+    withFriends().selectShown();
+    model->startRun();
+    MainWindowModel window(*model);
+    EXPECT_FALSE(window.mayClose());
+    // What the desktop announces; nobody looks at what comes with it.
+    QMetaObject::invokeMethod(qApp, "commitDataRequest",
+                              QGenericArgument("QSessionManager&", qApp));
+    EXPECT_TRUE(window.mayClose());
+    EXPECT_TRUE(model->runner().isActive());
 }
 
 // Catches a sheet that says nothing was found before anyone looked, or that names a wrong time.
