@@ -1,9 +1,13 @@
-// The program as the system sees it: started and told to end.
+// The program as the system sees it: started, started again, told to end.
 
 #include <gtest/gtest.h>
 
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QProcess>
+#include <QTest>
 #include <csignal>
 #include <optional>
 
@@ -11,6 +15,7 @@
 #include "core/system_surroundings.h"
 #include "platform/rehearsal/rehearsal_platform.h"
 #include "storage/files.h"
+#include "storage/home_lock.h"
 #include "support/rehearsal_home.h"
 #include "ui/window/main_window.h"
 
@@ -43,18 +48,21 @@ class Home : public RehearsalHome {
 /// A program at work in `home`.
 class Started : public QProcess {
   public:
-    Started(const Home& home, const QString& program, const QStringList& arguments) {
+    Started(const Home& home, const QString& program, const QStringList& arguments = {}) {
         QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
         surroundings.remove(u"XDG_DATA_HOME"_s);
         surroundings.insert(u"HOME"_s, home.path());
         surroundings.insert(u"XDG_RUNTIME_DIR"_s, home.path());
         surroundings.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+        // The toolkit keeps fonts until the end, which is no leak of ours.
+        surroundings.insert(u"ASAN_OPTIONS"_s, u"detect_leaks=0"_s);
         surroundings.insert(u"QT_QUICK_BACKEND"_s, u"software"_s);
         setProcessEnvironment(surroundings);
         setProcessChannelMode(MergedChannels);
         start(program, arguments);
         EXPECT_TRUE(waitForStarted(soon));
     }
+    explicit Started(const Home& home) : Started(home, QStringLiteral(VELMORA_PROGRAM)) {}
     ~Started() override {
         kill();
         waitForFinished(soon);
@@ -77,7 +85,46 @@ class Started : public QProcess {
     }
 };
 
+/// Waits until the start-up has stored what it chose.
+bool isUp(const Home& home) {
+    const QDeadlineTimer deadline(soon);
+    while (!QFileInfo::exists(home.file(u"config.json"_s)) && !deadline.hasExpired())
+        QTest::qSleep(10);
+    return !deadline.hasExpired();
+}
+
 }  // namespace
+
+// Catches two that work on one home, a second start that ends without a word or shows a window of
+// its own, a lock that outlives its process, and one that keeps out another home.
+TEST(Program, OneHomeIsOpenOnce) {
+    const Home home;
+    const Home other;
+    Started first(home);
+    Started elsewhere(other);
+    ASSERT_TRUE(isUp(home) && isUp(other)) << "one of two homes was kept out";
+    Started second(home);
+    EXPECT_EQ(second.ended(), 0) << "the first did not answer";
+    EXPECT_EQ(first.state(), QProcess::Running);
+
+    first.tell(SIGSTOP);
+    Started unheard(home);
+    EXPECT_TRUE(unheard.says("Velmora is open already: please go on in its window.\n"));
+    first.tell(SIGCONT);
+    unheard.tell(SIGTERM);
+    EXPECT_EQ(unheard.ended(), 1);
+    first.tell(SIGKILL);
+    EXPECT_EQ(first.ended(), std::nullopt);
+
+    EXPECT_TRUE(QFile::remove(home.file(u"config.json"_s)));
+    Started again(home);
+    EXPECT_TRUE(isUp(home)) << "the lock outlived the process that had it";
+    again.tell(SIGINT);
+    EXPECT_EQ(again.ended(), 0);
+    EXPECT_EQ(QDir(home.file({})).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              (QStringList{u"config.json"_s, u"logs"_s}));
+    EXPECT_FALSE(HomeLock(home.file(u"nowhere"_s)).isTaken()) << "what cannot be locked is open";
+}
 
 // Catches an end that loses the text in hand, or waits for the run or for an answer to an alert.
 TEST(Program, ASignalEndsARunInOrder) {
@@ -95,13 +142,14 @@ TEST(Program, ASignalEndsARunInOrder) {
 
 namespace {
 
-/// Sends to everybody in `home` and says when the first text is handed over.
-int run(QGuiApplication& application, const QString& home) {
+/// Sends to everybody in the home named in `argv` and says when the first text is handed over.
+int run(int argc, char** argv) {
+    QGuiApplication application(argc, argv);
     endAtSignals(application);
     SystemClock clock;
     SystemRandomSource random;
     ThreadBackground background;
-    const Platform platform = makeRehearsalPlatform(clock, home);
+    const Platform platform = makeRehearsalPlatform(clock, QString::fromLocal8Bit(argv[2]));
     AppModel model({.contacts = *platform.contacts,
                     .scripts = *platform.scripts,
                     .accountPreferences = *platform.accountPreferences,
@@ -129,9 +177,8 @@ int run(QGuiApplication& application, const QString& home) {
 
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
-    QGuiApplication application(argc, argv);
-    const QStringList arguments = QGuiApplication::arguments();
-    if (arguments.value(1) == u"--run")
-        return run(application, arguments.value(2));
+    if (argc == 3 && argv[1] == "--run"_ba)
+        return run(argc, argv);
+    const QCoreApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

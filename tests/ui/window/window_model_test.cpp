@@ -6,6 +6,7 @@
 #include "app/app_home.h"
 #include "ui/first_run/first_run_model.h"
 #include "ui/sidebar/sidebar_model.h"
+#include "ui/window/main_window.h"
 
 namespace velmora {
 
@@ -68,6 +69,15 @@ TEST_F(WindowModels, ARunIsClosedOnlyByTheEndOfTheSession) {
                               QGenericArgument("QSessionManager&", qApp));
     EXPECT_TRUE(window.mayClose());
     EXPECT_TRUE(model->runner().isActive());
+}
+
+// Catches a second start that leaves the window in the Dock, or makes a large one small.
+TEST_F(WindowModels, TheWindowComesBackAsItWas) {
+    MainWindow main(open());
+    main.show();
+    main.window().setWindowStates(Qt::WindowMaximized | Qt::WindowMinimized);
+    main.bringToFront();
+    EXPECT_EQ(main.window().windowStates(), Qt::WindowMaximized);
 }
 
 // Catches a sheet that says nothing was found before anyone looked, or that names a wrong time.
