@@ -28,8 +28,10 @@ void AppModel::setConfig(const AppConfig& config) {
     const AppConfig previous = std::exchange(config_, AppConfig(config));
     Q_EMIT configChanged();
     // An observer may have stored yet another record by now: the newest is the one to keep.
-    if (config_ != previous)
-        configStore_.save(config_);
+    if (config_ == previous)
+        return;
+    if (auto kept = configStore_.save(config_))
+        alert = std::move(kept);
 }
 
 void AppModel::setSenderNumber(const QString& number) {

@@ -95,6 +95,8 @@ class AppModel final : public AppState {
     void openFullDiskAccessSettings();
     void openMessages();
     void openPage(ProductPage page);
+    /// Whether the computer's session ends, which a run does not hold up.
+    [[nodiscard]] bool sessionEnds() const { return doors_.desktop.sessionEnds(); }
 
     /// The wall clock's moment.
     [[nodiscard]] Moment now() const { return surroundings_.clock.now(); }

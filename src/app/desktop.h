@@ -17,6 +17,10 @@ class Desktop : public ActivitySource {
     virtual void openPrivacyPane(PrivacyPane pane) = 0;
     virtual void openMessages() = 0;
     virtual void openPage(ProductPage page) = 0;
+
+    /// Whether the windows are asked to close because the computer's session ends, which nothing
+    /// may hold up.
+    [[nodiscard]] virtual bool sessionEnds() const = 0;
 };
 
 }  // namespace velmora

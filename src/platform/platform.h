@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "app/desktop.h"
+#include "app/doorbell.h"
 #include "contacts/contact_source.h"
 #include "core/clock.h"
 #include "history/account_preferences.h"
@@ -18,9 +19,10 @@ struct Platform {
     std::unique_ptr<ScriptRunner> scripts;
     std::unique_ptr<AccountPreferences> accountPreferences;
     std::unique_ptr<Desktop> desktop;
-    std::unique_ptr<NativeLook> look;  ///< the system's own; none where the views bring theirs
-    QString home;                      ///< the user's home folder
-    QString applicationSupport;        ///< the folder that holds each application's own folder
+    std::unique_ptr<Doorbell> doorbell;  ///< none in a home that only tests open
+    std::unique_ptr<NativeLook> look;    ///< the system's own; none where the views bring theirs
+    QString home;                        ///< the user's home folder
+    QString applicationSupport;          ///< the folder that holds each application's own folder
 };
 
 /// The platform that the build chose; one folder beside this file defines it. `clock` outlives it.

@@ -3,9 +3,9 @@
 #include <limits>
 #include <nlohmann/json.hpp>
 #include <string>
-#include <vector>
 
 #include "storage/config_store.h"
+#include "storage/settings_parser.h"
 
 namespace velmora {
 
@@ -130,91 +130,10 @@ bool isKnownKey(const std::string& name) {
     return !visitFields(config, [&](const char* key, const auto&) { return name != key; });
 }
 
-// Builds what the fields can hold, an object of values and of objects of values and lists, and
-// nothing of unknown keys. Reading ends at a container that no field has in that place, so that a
-// hostile file neither fills the memory with its nesting nor is gone over more than once.
-class SettingsBuilder final : public nlohmann::json_sax<json> {
-  public:
-    [[nodiscard]] json take() { return std::move(settings_); }
-
-    bool null() override { return add({}); }
-    bool boolean(bool value) override { return add(value); }
-    bool number_integer(number_integer_t value) override { return add(value); }
-    bool number_unsigned(number_unsigned_t value) override { return add(value); }
-    bool number_float(number_float_t value, const string_t& /*text*/) override {
-        return add(value);
-    }
-    bool string(string_t& value) override { return add(std::move(value)); }
-    bool binary(binary_t& /*value*/) override { return false; }
-
-    bool key(string_t& name) override {
-        if (ignored_ == 0 && open_.size() == 1)
-            isWanted_ = isKnownKey(name);
-        if (isWanted_)
-            place_ = &(*open_.back())[name];
-        return true;
-    }
-
-    bool start_object(size_t /*count*/) override { return open(json::object(), open_.size() < 2); }
-    bool end_object() override { return close(); }
-    bool start_array(size_t /*count*/) override {
-        return open(json::array(), open_.size() == 2 && open_.back()->is_object());
-    }
-    bool end_array() override { return close(); }
-
-    bool parse_error(size_t /*position*/, const std::string& /*token*/,
-                     const json::exception& /*error*/) override {
-        return false;
-    }
-
-  private:
-    bool add(json value) {
-        if (!isWanted_)
-            return true;
-        if (open_.empty())
-            return false;
-        if (open_.back()->is_array())
-            open_.back()->push_back(std::move(value));
-        else
-            *place_ = std::move(value);
-        return true;
-    }
-
-    bool open(json container, bool isHeld) {
-        if (!isWanted_)
-            ++ignored_;
-        else if (isHeld)
-            open_.push_back(&(*place_ = std::move(container)));
-        return !isWanted_ || isHeld;
-    }
-
-    bool close() {
-        if (ignored_ > 0)
-            --ignored_;
-        else
-            open_.pop_back();
-        return true;
-    }
-
-    json settings_;
-    json* place_ = &settings_;  // where an object's next value goes
-    std::vector<json*> open_;   // the containers of what is read, outermost first
-    size_t ignored_ = 0;        // containers that are open below an unknown key
-    bool isWanted_ = true;      // false in the value of an unknown key
-};
-
-std::optional<json> parsed(const QByteArray& text) {
-    SettingsBuilder builder;
-    // The parser takes a NUL for the end of the text.
-    if (text.contains('\0') || !json::sax_parse(text.begin(), text.end(), &builder))
-        return std::nullopt;
-    return builder.take();
-}
-
 }  // namespace
 
 std::optional<AppConfig> decodeConfig(const QByteArray& json) {
-    const auto object = parsed(json);
+    const auto object = parseSettings(json, isKnownKey);
     AppConfig config;
     const auto readField = [&](const char* key, auto& field) {
         const auto found = object->find(key);

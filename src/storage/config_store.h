@@ -14,15 +14,19 @@ class ConfigStore {
     /// `folder` outlives the store.
     explicit ConfigStore(SupportFolder& folder) : folder_(folder) {}
 
-    /// The stored settings. A missing key or null takes its default; a file that is missing, no
-    /// JSON object, or holds a value of a wrong type gives all defaults. Writes nothing.
+    /// The stored settings. A missing key or null takes its default; a file that is missing, cannot
+    /// be read, is no JSON object, or holds a value of a wrong type gives all defaults. Writes
+    /// nothing.
     [[nodiscard]] AppConfig load();
 
-    /// Replaces the file by `config`. A failure is dropped: the next change tries again.
-    void save(const AppConfig& config);
+    /// Replaces the file by `config`. A failure is dropped: the next change tries again. A file
+    /// that `load` found and could not use is kept beside the new one first, under a name that is
+    /// free; then the answer is the sentence that names it. While that fails, nothing is replaced.
+    std::optional<QString> save(const AppConfig& config);
 
   private:
     SupportFolder& folder_;
+    QString unused_;  // what was wrong with the file that `load` could not use
 };
 
 /// The settings in `json`, or nothing when the text is no JSON object or a present key has a wrong

@@ -40,6 +40,18 @@ TEST_F(Startup, WithoutAccessNothingIsLoaded) {
     EXPECT_EQ(model->alert.value(), std::nullopt);
 }
 
+// Catches settings that are lost without a word.
+TEST_F(Startup, SettingsThatWereNotUnderstoodAreNamed) {
+    writeTestFile(settingsPath(), "{ torn");
+    open();
+    EXPECT_EQ(model->alert.value(), std::nullopt) << "nothing has happened yet";
+    started();
+    EXPECT_TRUE(model->alert.value().value_or(QString()).contains(u"/config (kept).json\", "));
+    model->alert = std::nullopt;
+    model->acceptTerms();
+    EXPECT_EQ(model->alert.value(), std::nullopt) << "said twice";
+}
+
 // Catches a number picked for the user among several, a chosen one replaced, and an alias twice.
 TEST_F(Startup, NumbersAreMergedAndChosenOnlyWhenThereIsNoChoice) {
     thread(u"+12125550101"_s, myLine);

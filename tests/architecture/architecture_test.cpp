@@ -32,6 +32,7 @@ const QStringList doorHeaders = {
     u"sending/script_runner.h"_s,
     u"sending/activity_source.h"_s,
     u"app/desktop.h"_s,
+    u"app/doorbell.h"_s,
     u"app/product_pages.h"_s,
     u"ui/look/native_look.h"_s,
     u"storage/files.h"_s,

@@ -103,7 +103,7 @@ TEST(Package, ABundleThatLoadsFromHomebrewIsRefused) {
     }
 }
 
-// The keys and values of a property list's dictionary, with the values that are texts.
+// The keys and values of a property list's dictionary, with the values that are texts or true.
 QMap<QString, QString> propertyList(const QString& path) {
     QFile file(sourceRoot + path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
@@ -118,6 +118,8 @@ QMap<QString, QString> propertyList(const QString& path) {
             found.insert(key = xml.readElementText(), QString());
         else if (element == u"string")
             found.insert(key, xml.readElementText());
+        else if (element == u"true")
+            found.insert(key, element);
     }
     EXPECT_FALSE(xml.hasError()) << qPrintable(path + u": "_s + xml.errorString());
     return found;
@@ -130,6 +132,7 @@ TEST(Bundle, AsksForWhatItUsesAndSaysWhy) {
     EXPECT_TRUE(info.value(u"NSAppleEventsUsageDescription"_s).contains(u"Messages"));
     EXPECT_EQ(info.value(u"CFBundleShortVersionString"_s),
               u"${MACOSX_BUNDLE_SHORT_VERSION_STRING}");
+    EXPECT_EQ(info.value(u"LSMultipleInstancesProhibited"_s), u"true");
     const auto rights = propertyList(u"/packaging/macos/Velmora.entitlements"_s);
     EXPECT_EQ(rights.keys(),
               (QStringList{u"com.apple.security.automation.apple-events"_s,

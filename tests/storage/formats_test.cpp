@@ -62,6 +62,11 @@ TEST(ConfigJSON, OnlyWrongTypesAndBrokenTextGiveNothing) {
     EXPECT_EQ(decodeConfig(R"( {"senderNumber":"+1","maxPerRun":60.0,"delayMin":5,"notes":null,
         "selectedGroupID":null,"verifyWait":null,"other":{"notes":[[[[[1]]]]]},"SENDERNUMBER":3} )"),
               expected);
+    // What no number and no text can hold, next to what only looks like it.
+    expected.notes = {{u"a"_s, u"1e999 \"\\ud800\" \U0001f600"_s}};
+    EXPECT_EQ(decodeConfig(R"({"senderNumber":"+1","other":[1e999,{"a":-1E+400,"b":"\\ \ud800"}],
+        "notes":{"a":"1e999 \"\\ud800\" \ud83d\ude00"},"delayMin":5,"more":"\udc00\ud800"})"),
+              expected);
     EXPECT_EQ(decodeConfig("{}"), AppConfig());
     QByteArrayList members = QByteArray(R"("delayMin":"5" "delayMin":true "delayMax":1e999
         "maxPerRun":"60" "maxPerRun":60.5 "maxPerRun":true "maxPerRun":9223372036854775808

@@ -58,6 +58,53 @@ TEST_F(StorageTest, AFailedSaveLeavesTheOldFile) {
               QStringList{u"config.json"_s});
 }
 
+// What could not be used at a start is the user's all the same: a session with new settings must
+// not destroy it, nor what an earlier one kept.
+TEST_F(StorageTest, SettingsThatCannotBeUsedAreKeptBesideTheNewOnes) {
+    const QString path = folder.path() + u"/config.json"_s;
+    const auto kept = [&](const QString& number) {
+        return folder.path() + u"/config (kept%1).json"_s.arg(number);
+    };
+    const QString sentence =
+        u"Velmora couldn't %1 its settings file, which is kept as \"%2\", and "
+        "starts with new settings."_s;
+    writeTestFile(path, "{ torn");
+    EXPECT_EQ(store.load(), AppConfig());
+    EXPECT_EQ(read(path), "{ torn") << "reading writes nothing";
+    permit(folder.path(), 0x5555);
+    {
+        const auto user = asOrdinaryUser();
+        EXPECT_EQ(store.save(fullConfig()), std::nullopt);
+    }
+    permit(folder.path(), 0x7777);
+    EXPECT_EQ(read(path), "{ torn") << "replaced before it was kept";
+    EXPECT_EQ(store.save(fullConfig()), sentence.arg(u"understand"_s, kept({})));
+    EXPECT_EQ(store.save(fullConfig()), std::nullopt) << "said twice";
+    EXPECT_EQ(read(kept({})), "{ torn");
+    EXPECT_EQ(store.load(), fullConfig());
+    permit(path, 0x0000);
+    {
+        const auto user = asOrdinaryUser();
+        EXPECT_EQ(store.load(), AppConfig());
+        EXPECT_EQ(store.save(AppConfig()), sentence.arg(u"read"_s, kept(u" 2"_s)));
+    }
+    permit(kept(u" 2"_s), 0x6600);
+    EXPECT_EQ(decodeConfig(read(kept(u" 2"_s))), fullConfig());
+    for (const QString& number : {u" 3"_s, u" 4"_s}) {
+        EXPECT_TRUE(QFile::remove(path));
+        const QByteArray name = QFile::encodeName(path);
+        EXPECT_EQ(
+            number == u" 3"_s ? ::mkdir(name.constData(), 0700) : ::mkfifo(name.constData(), 0600),
+            0);
+        EXPECT_EQ(store.load(), AppConfig());
+        EXPECT_EQ(store.save(fullConfig()), sentence.arg(u"read"_s, kept(number)));
+        EXPECT_EQ(store.load(), fullConfig());
+    }
+    EXPECT_TRUE(QFile::remove(path));
+    EXPECT_EQ(store.load(), AppConfig());
+    EXPECT_EQ(store.save(fullConfig()), std::nullopt) << "nothing was lost";
+}
+
 TEST_F(StorageTest, TheOlderFolderMovesOnlyIntoAFreePlace) {
     const QString older = directory.filePath(u"Kestrune"_s);
     writeTestFile(older + u"/logs/a.csv"_s, "old");

@@ -53,6 +53,14 @@ class MacDesktop final : public Desktop {
     void openPage(ProductPage page) override {
         open(productPageAddress(QStringLiteral(VELMORA_WEBSITE_HOST), page));
     }
+
+    bool sessionEnds() const override {
+        // Who asks a program to quit gives a reason only when the session ends.
+        constexpr AEKeyword quitReason = 0x7768793F;  // 'why?'
+        NSAppleEventDescriptor* asked =
+            NSAppleEventManager.sharedAppleEventManager.currentAppleEvent;
+        return [asked attributeDescriptorForKeyword:quitReason] != nil;
+    }
 };
 
 }  // namespace

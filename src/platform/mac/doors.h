@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "app/desktop.h"
+#include "app/doorbell.h"
 #include "contacts/contact_source.h"
 #include "history/account_preferences.h"
 #include "sending/script_runner.h"
@@ -20,5 +21,8 @@ namespace velmora {
 
 /// The workspace and this process's activities.
 [[nodiscard]] std::unique_ptr<Desktop> makeMacDesktop();
+
+/// The system's own list of what runs in this session.
+[[nodiscard]] std::unique_ptr<Doorbell> makeMacDoorbell();
 
 }  // namespace velmora

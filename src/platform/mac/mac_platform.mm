@@ -15,6 +15,7 @@ Platform makePlatform(Clock&) {
     platform.scripts = makeMacScriptRunner();
     platform.accountPreferences = makeMacAccountPreferences();
     platform.desktop = makeMacDesktop();
+    platform.doorbell = makeMacDoorbell();
     platform.look = makeMacLook();
     platform.home = textOf(NSHomeDirectory());
     NSArray<NSURL*>* folders =

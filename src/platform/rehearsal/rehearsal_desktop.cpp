@@ -1,5 +1,6 @@
 #include "platform/rehearsal/rehearsal_desktop.h"
 
+#include <QGuiApplication>
 #include <cstdio>
 
 #include "app/product_pages.h"
@@ -15,6 +16,13 @@ void wouldOpen(const QString& what) {
 }
 
 }  // namespace
+
+RehearsalDesktop::RehearsalDesktop() {
+    // A program without windows is in no session.
+    if (auto* application = qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
+        QObject::connect(application, &QGuiApplication::commitDataRequest, &following_,
+                         [this] { sessionEnds_ = true; });
+}
 
 std::unique_ptr<Activity> RehearsalDesktop::beginActivity(const QString&) {
     return nullptr;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QObject>
 #include <QString>
 #include <memory>
 
@@ -11,10 +12,19 @@ namespace velmora {
 /// awake.
 class RehearsalDesktop final : public Desktop {
   public:
+    RehearsalDesktop();
+
     [[nodiscard]] std::unique_ptr<Activity> beginActivity(const QString& reason) override;
     void openPrivacyPane(PrivacyPane pane) override;
     void openMessages() override;
     void openPage(ProductPage page) override;
+    /// True from when the session manager first announced the end: it does not say when the user
+    /// thinks better of it.
+    [[nodiscard]] bool sessionEnds() const override { return sessionEnds_; }
+
+  private:
+    QObject following_;
+    bool sessionEnds_ = false;
 };
 
 }  // namespace velmora

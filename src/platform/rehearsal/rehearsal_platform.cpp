@@ -27,6 +27,7 @@ Platform makeRehearsalPlatform(Clock& clock, const QString& home) {
         .scripts = std::make_unique<MessagesApplication>(clock, home),
         .accountPreferences = std::make_unique<RehearsalAccount>(home),
         .desktop = std::make_unique<RehearsalDesktop>(),
+        .doorbell = nullptr,
         .look = nullptr,
         .home = home,
         .applicationSupport = home + u"/.local/share"_s,

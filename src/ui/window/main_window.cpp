@@ -1,35 +1,20 @@
 #include "ui/window/main_window.h"
 
-#include <QFontDatabase>
 #include <QGuiApplication>
 
 #include "ui/look/drawn_look.h"
-#include "ui/look/symbol_image_provider.h"
 #include "ui/look/system_appearance.h"
+#include "ui/window/views.h"
 
 using namespace Qt::StringLiterals;
-
-// The module's types register themselves from here: in a static library without a plugin nothing
-// else refers to them, and the linker would leave them out.
-void qml_register_types_Velmora();  // NOLINT(readability-identifier-naming): the toolkit's name
 
 namespace velmora {
 
 namespace {
 
-constexpr int bodyPixels = 13;
 /// Milliseconds that the toolkit waits for more changes before it draws, where the system does not
 /// tell it when to; it would wait for 5.
 constexpr auto updatePause = "0";
-
-/// The views read the family from the application's font.
-void useFont(const QString& family) {
-    if (QFontDatabase::hasFamily(family)) {
-        QFont font(family);
-        font.setPixelSize(bodyPixels);
-        QGuiApplication::setFont(font);
-    }
-}
 
 }  // namespace
 
@@ -39,19 +24,17 @@ MainWindow::MainWindow(AppModel& model, std::unique_ptr<NativeLook> look, Motion
         look = std::make_unique<DrawnLook>();
     if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME"))
         qputenv("QT_QPA_UPDATE_IDLE_TIME", updatePause);
-    qml_register_types_Velmora();
-    useFont(look->fontFamily());
-    engine_.addImportPath(u"qrc:/qt/qml"_s);
+    const NativeLook* asked = look.get();
+    prepareViews(engine_, std::move(look));
     auto* appearance = engine_.singletonInstance<SystemAppearance*>(
         qmlTypeId("Velmora", 1, 0, "SystemAppearance"));
-    // The look is given to the engine below, and lives as long as what follows it.
-    const auto followMotion = [appearance, motion, asked = look.get()] {
+    // The engine has the look, which lives as long as what follows it.
+    const auto followMotion = [appearance, motion, asked] {
         appearance->setMotion(motion == Motion::animated, asked->reducesMotion());
     };
     followMotion();
     engine_.setInitialProperties({{u"presentation"_s, QVariant::fromValue(&presentation_)},
-                                  {u"nativeMenus"_s, look->nativeMenuBar()}});
-    engine_.addImageProvider(u"symbol"_s, new SymbolImageProvider(std::move(look)));
+                                  {u"nativeMenus"_s, asked->nativeMenuBar()}});
     engine_.load(QUrl(u"qrc:/qt/qml/Velmora/MainWindowRoot.qml"_s));
     if (!engine_.rootObjects().isEmpty())
         window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
@@ -73,6 +56,12 @@ MainWindow::MainWindow(AppModel& model, std::unique_ptr<NativeLook> look, Motion
 
 void MainWindow::show() {
     window_->show();
+}
+
+void MainWindow::bringToFront() {
+    window_->setWindowStates(window_->windowStates() & ~Qt::WindowMinimized);
+    window_->raise();
+    window_->requestActivate();
 }
 
 }  // namespace velmora

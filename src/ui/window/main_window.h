@@ -24,6 +24,10 @@ class MainWindow final {
     /// Shows the window; the first time, this starts the application model.
     void show();
 
+    /// Puts the window in front of all others and gives it the keyboard, as far as the desktop lets
+    /// a program do that; from the Dock or the task bar, too.
+    void bringToFront();
+
     [[nodiscard]] QQuickWindow& window() const { return *window_; }
     [[nodiscard]] Presentation& presentation() { return presentation_; }
 

@@ -129,7 +129,7 @@ bool MainWindowModel::commandsEnabled() const {
 }
 
 bool MainWindowModel::mayClose() {
-    if (!model_.runner().isActive())
+    if (!model_.runner().isActive() || model_.sessionEnds())
         return true;
     model_.alert = u"A run is still going. Stop it and let it end, then close Velmora."_s;
     return false;

@@ -80,7 +80,7 @@ class MainWindowModel final : public QObject {
     /// Whether the commands that act on the window's content are offered: nothing covers it.
     [[nodiscard]] bool commandsEnabled() const;
     /// Whether the main window may close, and the application end with it. During a run it answers
-    /// false and the alert says what to do first.
+    /// false and the alert says what to do first, except at the end of the computer's session.
     Q_INVOKABLE bool mayClose();
 
     /// Starts the application model, at the first call only.

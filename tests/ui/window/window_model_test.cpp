@@ -1,10 +1,12 @@
 #include "ui/window/main_window_model.h"
 
+#include <QGuiApplication>
 #include <QSignalSpy>
 
 #include "app/app_home.h"
 #include "ui/first_run/first_run_model.h"
 #include "ui/sidebar/sidebar_model.h"
+#include "ui/window/main_window.h"
 
 namespace velmora {
 
@@ -54,6 +56,28 @@ TEST_F(WindowModels, StartOnceAndLookAgainOnlyWhenNeeded) {
         window.applicationActivated();
         EXPECT_EQ(model->numbersCheckedAt.value().has_value(), !readable);
     }
+}
+
+// Catches a run that holds up the end of the computer's session, or one that anybody may close.
+TEST_F(WindowModels, ARunIsClosedOnlyByTheEndOfTheSession) {
+    withFriends().selectShown();
+    model->startRun();
+    MainWindowModel window(*model);
+    EXPECT_FALSE(window.mayClose());
+    // What the desktop announces; nobody looks at what comes with it.
+    QMetaObject::invokeMethod(qApp, "commitDataRequest",
+                              QGenericArgument("QSessionManager&", qApp));
+    EXPECT_TRUE(window.mayClose());
+    EXPECT_TRUE(model->runner().isActive());
+}
+
+// Catches a second start that leaves the window in the Dock, or makes a large one small.
+TEST_F(WindowModels, TheWindowComesBackAsItWas) {
+    MainWindow main(open());
+    main.show();
+    main.window().setWindowStates(Qt::WindowMaximized | Qt::WindowMinimized);
+    main.bringToFront();
+    EXPECT_EQ(main.window().windowStates(), Qt::WindowMaximized);
 }
 
 // Catches a sheet that says nothing was found before anyone looked, or that names a wrong time.

@@ -26,7 +26,12 @@ void CGContextRelease(CGContextRef context);
 @interface NSWorkspaceOpenConfiguration : NSObject
 + (instancetype)configuration;
 @end
-@class NSRunningApplication;
+enum NSApplicationActivationOptions : NSUInteger { NSApplicationActivateAllWindows = 1 };
+@interface NSRunningApplication : NSObject
++ (NSArray<NSRunningApplication *> *)runningApplicationsWithBundleIdentifier:(NSString *)identifier;
+@property(readonly) int processIdentifier;
+- (BOOL)activateWithOptions:(NSApplicationActivationOptions)options;
+@end
 @interface NSWorkspace : NSObject
 @property(class, readonly) NSWorkspace *sharedWorkspace;
 @property(readonly) BOOL accessibilityDisplayShouldReduceMotion;

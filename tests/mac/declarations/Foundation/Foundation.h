@@ -66,11 +66,24 @@ NSString *NSHomeDirectory(void);
 enum NSActivityOptions : uint64_t { NSActivityUserInitiated = 0x00FFFFFF };
 @interface NSProcessInfo : NSObject
 @property(class, readonly) NSProcessInfo *processInfo;
+@property(readonly) int processIdentifier;
 - (id<NSObject>)beginActivityWithOptions:(NSActivityOptions)options reason:(NSString *)reason;
 - (void)endActivity:(id<NSObject>)activity;
 @end
 
-@class NSAppleEventDescriptor;
+@interface NSBundle : NSObject
+@property(class, readonly) NSBundle *mainBundle;
+@property(readonly) NSString *bundleIdentifier;
+@end
+
+typedef uint32_t AEKeyword;
+@interface NSAppleEventDescriptor : NSObject
+- (NSAppleEventDescriptor *)attributeDescriptorForKeyword:(AEKeyword)keyword;
+@end
+@interface NSAppleEventManager : NSObject
++ (NSAppleEventManager *)sharedAppleEventManager;
+@property(readonly) NSAppleEventDescriptor *currentAppleEvent;
+@end
 extern NSString *const NSAppleScriptErrorMessage;
 @interface NSAppleScript : NSObject
 - (instancetype)initWithSource:(NSString *)source;
