@@ -4,8 +4,9 @@
 
 #include <QDir>
 #include <algorithm>
-#include <chrono>
 #include <limits>
+
+#include "history/time_limit.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,29 +20,6 @@ struct StatementCloser {
     void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 };
 using Statement = std::unique_ptr<sqlite3_stmt, StatementCloser>;
-
-/// Interrupts what the connection does once the time is over, as long as this lives. A history that
-/// is damaged or made to, such as with a view without end, would hold the window up for ever.
-class TimeLimit {
-  public:
-    TimeLimit(sqlite3* connection, double seconds)
-        : connection_(connection), end_(Clock::now() + std::chrono::duration<double>(seconds)) {
-        constexpr int stepsBetweenLooks = 10'000;
-        sqlite3_progress_handler(
-            connection_, stepsBetweenLooks,
-            [](void* limit) { return Clock::now() > static_cast<TimeLimit*>(limit)->end_ ? 1 : 0; },
-            this);
-    }
-    ~TimeLimit() { sqlite3_progress_handler(connection_, 0, nullptr, nullptr); }
-    TimeLimit(const TimeLimit&) = delete;
-    TimeLimit& operator=(const TimeLimit&) = delete;
-
-  private:
-    using Clock = std::chrono::steady_clock;
-
-    sqlite3* connection_;
-    std::chrono::time_point<Clock, std::chrono::duration<double>> end_;
-};
 
 // What cannot be bound stays NULL and matches nothing.
 void bind(const Statement& statement, int position, const MessagesDB::Bind& value) {

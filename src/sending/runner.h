@@ -144,6 +144,8 @@ class Runner final : public QObject {
     QCoro::Task<LogEntry> sendOne(Item item);
     /// `logged`: whether the person has a line in the log already, which the attempt replaces.
     QCoro::Task<Attempt> attempt(Item item, Service service, QString label, bool logged = false);
+    /// Hands a text to Messages, unless its line is not on the disk.
+    [[nodiscard]] std::expected<void, SendError> handOver(const Item& item, Service service);
     void putDown(const LogEntry& line);
     QCoro::Task<bool> checkLine(LogEntry entry, Item item);
     QCoro::Task<bool> checkFailures();

@@ -52,7 +52,7 @@ QCoro::Task<Runner::Attempt> Runner::attempt(Item item, Service service, QString
         putDown(line);
     }
     const qint64 since = historyTimestamp(clock().now());
-    const auto handed = tools_.sender.send(item.phone, service, item.text);
+    const auto handed = handOver(item, service);
     unwindWithout(life);
     Attempt result;
     if (!handed) {
@@ -68,6 +68,13 @@ QCoro::Task<Runner::Attempt> Runner::attempt(Item item, Service service, QString
     if (result.entry.status == statusUnverified)
         pending_.push_back({item, since, service, label, result.entry.id});
     co_return result;
+}
+
+std::expected<void, SendError> Runner::handOver(const Item& item, Service service) {
+    if (!tools_.sendLog.isWritten(batch))
+        return std::unexpected(SendError{
+            u"The log of the run can't be written, so nothing was sent. Check the disk."_s});
+    return tools_.sender.send(item.phone, service, item.text);
 }
 
 void Runner::putDown(const LogEntry& line) {

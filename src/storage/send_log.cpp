@@ -21,11 +21,12 @@ QByteArray lineOf(const LogEntry& entry) {
 
 }  // namespace
 
-bool SendLog::write(const QString& path, const std::vector<Change>& changes) {
+bool SendLog::write(const QString& path, const std::vector<Change>& changes,
+                    Unreadable unreadable) {
     const auto old = readFile(path);
     const bool missing = !old && old.error().kind == Kind::missing;
     if (!old && !missing)
-        return writeBlindly(path, changes);
+        return unreadable == Unreadable::addBlindly && writeBlindly(path, changes);
     const LogRepair repair = repairOf(old.value_or(QByteArray()));
     QByteArray kept = old.value_or(QByteArray()).chopped(repair.surplus);
     QByteArray added;
@@ -89,13 +90,11 @@ void SendLog::retry() {
         std::vector<Change> changes;
         std::ranges::copy_if(left, std::back_inserter(changes), isOfFile);
         std::erase_if(left, isOfFile);
-        bool written = false;
-        // A second time for a file that has come or gone just then.
-        for (int turn = 0; turn < 2 && !written; ++turn) {
-            written = write(path, changes);
-            for (Change& each : changes)
-                each.triedBefore = true;
-        }
+        // A second time for a file that has come or gone just then, or could not be read once.
+        bool written = write(path, changes, Unreadable::leave);
+        for (Change& each : changes)
+            each.triedBefore = true;
+        written = written || write(path, changes, Unreadable::addBlindly);
         if (!written)
             std::ranges::move(changes, std::back_inserter(waiting_));
     }
@@ -169,6 +168,10 @@ void SendLog::addWaiting(std::vector<LogEntry>& entries, const QString& path) co
 
 bool SendLog::isUnderstood(const QString& batch) {
     return !puzzling_.contains(logFile(batch));
+}
+
+bool SendLog::isWritten(const QString& batch) {
+    return std::ranges::find(waiting_, logFile(batch), &Change::path) == waiting_.end();
 }
 
 QString SendLog::logFile(const QString& batch) {

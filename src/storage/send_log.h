@@ -53,6 +53,9 @@ class SendLog {
     /// none, or it could be read and holds the header and entries alone, each with a phone.
     [[nodiscard]] bool isUnderstood(const QString& batch);
 
+    /// Whether all lines of the run stand in its file.
+    [[nodiscard]] bool isWritten(const QString& batch);
+
     /// Tries again to write what could not be written.
     void retry();
 
@@ -75,7 +78,10 @@ class SendLog {
         bool understood = true;
     };
 
-    [[nodiscard]] static bool write(const QString& path, const std::vector<Change>& changes);
+    enum class Unreadable { leave, addBlindly };
+
+    [[nodiscard]] static bool write(const QString& path, const std::vector<Change>& changes,
+                                    Unreadable unreadable);
     [[nodiscard]] static bool writeBlindly(const QString& path, const std::vector<Change>& changes);
     void add(Change change);
     void addWaiting(std::vector<LogEntry>& entries, const QString& path) const;

@@ -1,0 +1,124 @@
+// Preloaded into a program, makes the n-th call on files below one folder fail, once or from then
+// on: VELMORA_FAULT_FOLDER, VELMORA_FAULT_AT and, for the latter, VELMORA_FAULT_STAYS. At the end
+// it writes how many calls there were into the file VELMORA_FAULT_COUNT.
+
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/types.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+int calls = 0;
+std::array<bool, 1024> isWatched{};  // by descriptor
+
+const char* setting(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
+
+bool lies(const char* path) {
+    static const char* const folder = setting("VELMORA_FAULT_FOLDER");
+    return *folder != 0 && std::strncmp(path, folder, std::strlen(folder)) == 0;
+}
+
+bool watched(int handle) {
+    return handle >= 0 && handle < static_cast<int>(isWatched.size()) &&
+           isWatched[static_cast<size_t>(handle)];
+}
+
+// Whether this call is to fail; `error` is what it then says.
+bool fails(int error) {
+    static const int at = std::atoi(setting("VELMORA_FAULT_AT"));
+    static const bool stays = *setting("VELMORA_FAULT_STAYS") != 0;
+    ++calls;
+    if (at == 0 || (stays ? calls < at : calls != at))
+        return false;
+    errno = error;
+    return true;
+}
+
+template <class Function>
+Function real(const char* name) {
+    return reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name));
+}
+
+int opened(const char* name, const char* path, int flags, mode_t mode) {
+    if (lies(path) && fails((flags & O_CREAT) != 0 ? ENOSPC : EIO))
+        return -1;
+    const int handle = real<int (*)(const char*, int, ...)>(name)(path, flags, mode);
+    if (handle >= 0 && handle < static_cast<int>(isWatched.size()))
+        isWatched[static_cast<size_t>(handle)] = lies(path);
+    return handle;
+}
+
+struct Report {
+    ~Report() {
+        if (FILE* file = std::fopen(setting("VELMORA_FAULT_COUNT"), "w")) {
+            std::fprintf(file, "%d", calls);
+            std::fclose(file);
+        }
+    }
+} report;
+
+}  // namespace
+
+extern "C" {
+
+int open(const char* path, int flags, ...) {
+    va_list rest;
+    va_start(rest, flags);
+    const mode_t mode = va_arg(rest, mode_t);
+    va_end(rest);
+    return opened("open", path, flags, mode);
+}
+int open64(const char* path, int flags, ...) {
+    va_list rest;
+    va_start(rest, flags);
+    const mode_t mode = va_arg(rest, mode_t);
+    va_end(rest);
+    return opened("open64", path, flags, mode);
+}
+ssize_t read(int handle, void* bytes, size_t size) {
+    if (watched(handle) && fails(EIO))
+        return -1;
+    return real<ssize_t (*)(int, void*, size_t)>("read")(handle, bytes, size);
+}
+ssize_t write(int handle, const void* bytes, size_t size) {
+    if (watched(handle) && fails(ENOSPC)) {
+        // As on a full disk, the first part may be there.
+        return size < 2 ? -1
+                        : real<ssize_t (*)(int, const void*, size_t)>("write")(handle, bytes, 1);
+    }
+    return real<ssize_t (*)(int, const void*, size_t)>("write")(handle, bytes, size);
+}
+int fsync(int handle) {
+    if (watched(handle) && fails(EIO))
+        return -1;
+    return real<int (*)(int)>("fsync")(handle);
+}
+int ftruncate(int handle, off_t size) noexcept {
+    if (watched(handle) && fails(EIO))
+        return -1;
+    return real<int (*)(int, off_t)>("ftruncate")(handle, size);
+}
+int rename(const char* from, const char* to) noexcept {
+    if (lies(from) && fails(EIO))
+        return -1;
+    return real<int (*)(const char*, const char*)>("rename")(from, to);
+}
+int close(int handle) {
+    const bool failed = watched(handle) && fails(EIO);
+    if (handle >= 0 && handle < static_cast<int>(isWatched.size()))
+        isWatched[static_cast<size_t>(handle)] = false;
+    const int result = real<int (*)(int)>("close")(handle);
+    return failed ? -1 : result;
+}
+}
