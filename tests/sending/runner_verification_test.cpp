@@ -163,7 +163,7 @@ TEST_F(VerificationTest, TheLineOfATextStandsBeforeItLeaves) {
               {phone(2), R"({"scriptError": "No."})"},
               {phone(3), R"({"iMessage": {"recordAfter": 21, "error": 22}})"}});
     QStringList seen;
-    scripts.before = [&] {
+    scripts.before = [&](const QString&) {
         SendLog onDisk(folder, clock());
         const std::vector<LogEntry> lines = onDisk.load(batch);
         EXPECT_EQ(file().count('\n'), lines.size() + 1);

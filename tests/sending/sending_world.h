@@ -22,12 +22,12 @@ struct CountedScripts final : ScriptRunner {
     [[nodiscard]] ScriptResult run(const QString& source) override {
         ++count;
         if (before)
-            before();
+            before(source);
         return messages.run(source);
     }
 
     int count = 0;
-    std::function<void()> before;
+    std::function<void(const QString& source)> before;
     ScriptRunner& messages;
 };
 
