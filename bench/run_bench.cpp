@@ -76,7 +76,7 @@ void run(const QString& home, VirtualSurroundings& world, qint64& paused) {
     config.senderNumber = line;
     runner.start(u"Everyone"_s, items, config);
     world.clock.runUntilIdle();
-    if (runner.done != people)
+    if (runner.done.value() != people)
         qFatal("The run did not handle everyone.");
 }
 

@@ -18,7 +18,7 @@ QString AppConfig::* settingOf(QuietField field) {
 // the gap when the clock jumps over it.
 QDateTime wallTime(QDate date, QTime time) {
     const QTimeZone zone = QTimeZone::systemTimeZone();
-    const QDateTime asUtc(date, time, Qt::UTC);
+    const QDateTime asUtc(date, time, QTimeZone::utc());
     const int before = zone.offsetFromUtc(asUtc.addDays(-1));
     const int after = zone.offsetFromUtc(asUtc.addDays(1));
     for (const int offset : {std::max(before, after), std::min(before, after)}) {

@@ -61,7 +61,8 @@ QDateTime utcTime(Moment moment) {
     constexpr double earliest = -62135510400.0;
     constexpr double latest = 253402214400.0;
     const double unixTime = std::clamp(moment.seconds + referenceEpoch, earliest, latest);
-    return QDateTime::fromSecsSinceEpoch(static_cast<qint64>(std::floor(unixTime)), Qt::UTC);
+    return QDateTime::fromSecsSinceEpoch(static_cast<qint64>(std::floor(unixTime)),
+                                         QTimeZone::utc());
 }
 
 }  // namespace

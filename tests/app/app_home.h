@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QJsonDocument>
+#include <QJsonValue>
 
 #include "app/app_model.h"
 #include "platform/rehearsal/rehearsal_platform.h"

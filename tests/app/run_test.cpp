@@ -153,7 +153,7 @@ TEST_F(Run, IsRefusedForTheFirstReasonThatHolds) {
     model->loadList();
     model->setSelection({u"ann"_s});
     model->startRun();
-    EXPECT_EQ(model->runner().total, 0) << "without a number";
+    EXPECT_EQ(model->runner().total.value(), 0) << "without a number";
 }
 
 // Catches a request before the terms are accepted, and one or a test send that outlives its model.

@@ -13,7 +13,6 @@
 #include "platform/rehearsal/rehearsal_platform.h"
 #include "platform/rehearsal/sample/sample_home.h"
 #include "sending/message_sender.h"
-#include "storage/config_store.h"
 #include "support/rehearsal_home.h"
 #include "support/virtual_surroundings.h"
 
@@ -53,19 +52,6 @@ TEST_F(AddressBookTest, ReadsLabelsAndTakesAMissingKeyOrFileAsEmpty) {
     EXPECT_EQ(phones[1].label, std::nullopt);
 }
 
-// Catches a member twice, a stranger in a group, and an unknown group taken for an empty one.
-TEST_F(AddressBookTest, MembersComeInTheOrderOfTheBookAndAnUnknownGroupIsAnError) {
-    home.writeContacts(addressBook(
-        {person(u"c1"_s, u"Zoe"_s, {}), person(u"c2"_s, {}, {}), person(u"c3"_s, {}, {})},
-        {{u"g2"_s, u"Work"_s, {u"c3"_s, u"c1"_s, u"c3"_s, u"gone"_s}}}));
-    QStringList members;
-    const auto work = book.membersOfGroup(u"g2"_s);
-    for (const ContactRecord& each : work.value())
-        members.append(each.identifier);
-    EXPECT_EQ(members, (QStringList{u"c1"_s, u"c3"_s}));
-    EXPECT_TRUE(book.membersOfGroup(u"g9"_s).error().description.endsWith(u'.'));
-}
-
 // Catches a read that goes on with part of a broken book, or that is kept from the user as denied.
 TEST_F(AddressBookTest, ABrokenFileFailsEveryReadWithOneSentence) {
     for (const QByteArray json :
@@ -82,18 +68,6 @@ TEST_F(AddressBookTest, ABrokenFileFailsEveryReadWithOneSentence) {
     const QString path = home.path() + u"/Library/Contacts/contacts.json"_s;
     ASSERT_TRUE(QFile::remove(path) && QFile::link(u"contacts.json"_s, path));
     EXPECT_FALSE(book.allGroups().has_value()) << "out of reach is not missing";
-}
-
-// Catches names read without permission, and permission remembered after the user took it away.
-TEST_F(AddressBookTest, DeniedAccessRefusesEveryReadUntilItIsGranted) {
-    home.writeContacts(R"({"access": "denied", "contacts": [{"identifier": "c1"}]})");
-    EXPECT_EQ(book.access(), ContactAccess::denied);
-    EXPECT_FALSE(QCoro::waitFor(book.requestAccess()));
-    EXPECT_FALSE(book.enumerateContacts([](const ContactRecord&) { ADD_FAILURE(); }).has_value());
-    EXPECT_FALSE(book.allGroups().has_value());
-    home.writeContacts(R"({"access": "granted", "contacts": [{"identifier": "c1"}]})");
-    EXPECT_TRUE(QCoro::waitFor(book.requestAccess()));
-    EXPECT_EQ(everybody().size(), 1U);
 }
 
 const QString ann = u"+12125550123"_s;
@@ -169,29 +143,6 @@ TEST_F(MessagesApplicationTest, AFailingScriptLeavesNothing) {
         EXPECT_THAT(fails(settings), testing::HasSubstr("messages.json"));
 }
 
-// Catches writing into a history that was deleted while the application ran, flags that fall on a
-// stranger's row of a new one, a table or column of others that disturbs, and what is still to come
-// being called on an application that has ended.
-TEST_F(MessagesApplicationTest, ADeletedHistoryIsMadeAnewAndAnEndEndsAll) {
-    static_cast<void>(home.history());
-    changeHistory(home.historyPath(),
-                  "CREATE TABLE attachment (a); ALTER TABLE message ADD COLUMN is_read DEFAULT 0");
-    send();
-    EXPECT_EQ(flagsAfter(10), u"sd"_s);
-    send();
-    EXPECT_EQ(flagsAfter(0.5), u""_s);
-    for (const QString& suffix : {u""_s, u"-wal"_s, u"-shm"_s})
-        QFile::remove(home.historyPath() + suffix);
-    for (int row = 1; row <= 2; ++row)
-        EXPECT_EQ(HistoryWriter::open(home.historyPath())->add({.handle = ann, .date = since}),
-                  row);
-    EXPECT_EQ(flagsAfter(10), u""_s);
-    send();
-    EXPECT_EQ(flagsAfter(0.5), u""_s);
-    messages.reset();
-    EXPECT_EQ(flagsAfter(60), u""_s);
-}
-
 class SampleHomeTest : public RehearsalTest {
   protected:
     SampleHomeTest() { EXPECT_TRUE(prepareSampleHome(path, world.clock.now()).has_value()); }
@@ -223,17 +174,6 @@ TEST_F(SampleHomeTest, EveryNumberIsSetAsideForFiction) {
         EXPECT_TRUE(each.endsWith(u"@example.com") || fiction.match(each).hasMatch())
             << each.toStdString();
     EXPECT_EQ(history().senderNumbers(world.clock.now()).value().size(), 2U);
-}
-
-// Catches settings that are malformed (all defaults then) or keep a rehearsal from running at
-// night, and a rehearsal's own changes that are overwritten by preparing its home again.
-TEST_F(SampleHomeTest, AllowsAQuickRehearsalAtAnyHourAndIsPreparedOnce) {
-    SupportFolder support(platform.applicationSupport);
-    const AppConfig config = ConfigStore(support).load();
-    EXPECT_LT(config.delayMax, 5);
-    EXPECT_LT(config.verifyWait, 8) << "Elena's late confirmation would never be seen";
-    EXPECT_EQ(config.quietStart + u'-' + config.quietEnd, u"00:00-23:59"_s);
-    EXPECT_FALSE(prepareSampleHome(path, world.clock.now()).has_value());
 }
 
 }  // namespace

