@@ -1,5 +1,7 @@
 #include <QDir>
 #include <QScopedValueRollback>
+#include <algorithm>
+#include <numeric>
 #include <utility>
 
 #include "app/app_model.h"
@@ -72,9 +74,8 @@ void AppModel::tellOfLog() {
 }
 
 void AppModel::publish(std::vector<Recipient> list) {
-    refreshTexts(list);
     recipients_ = std::move(list);
-    search_ = RecipientSearch(recipients_);
+    search_.reset();
     Q_EMIT recipientsReplaced();
 }
 
@@ -94,7 +95,13 @@ void AppModel::restoreSelection(const QSet<QString>& selection) {
 }
 
 std::vector<qsizetype> AppModel::visibleRecipients() const {
-    std::vector<qsizetype> visible = search_.find(searchText);
+    std::vector<qsizetype> visible(recipients_.size());
+    std::iota(visible.begin(), visible.end(), 0);
+    if (!searchText.value().isEmpty()) {
+        if (!search_)
+            search_.emplace(recipients_);
+        visible = search_->find(searchText);
+    }
     if (selectedOnly)
         std::erase_if(visible, [this](qsizetype index) {
             return !selection_.contains(recipients_[static_cast<size_t>(index)].id);
@@ -153,7 +160,9 @@ void AppModel::setNote(const QString& id, const QString& note) {
         else
             config.notes.insert(id, note);
     });
-    refreshText(id);
+    const auto noted = std::ranges::find(recipients_, id, &Recipient::id);
+    if (noted != recipients_.end())
+        Q_EMIT recipientTextChanged(noted - recipients_.begin());
 }
 
 }  // namespace velmora
