@@ -7,6 +7,7 @@
 #include "app/app_model.h"
 #include "app/recipient_check.h"
 #include "core/collation.h"
+#include "core/freed_memory.h"
 
 using namespace Qt::StringLiterals;
 
@@ -31,6 +32,7 @@ void AppModel::loadList() {
     const std::optional<QString> listID = config_.selectedGroupID;
     if (!listID)
         return;
+    const FreedMemoryReturns afterReading;
     loading = true;
     loadGroups();
     const auto people = contacts_.contactsInList(*listID);

@@ -8,6 +8,8 @@
 #include <system_error>
 #include <utility>
 
+#include "core/freed_memory.h"
+
 using namespace Qt::StringLiterals;
 
 namespace velmora {
@@ -38,7 +40,13 @@ std::expected<AddressBook::SharedFile, ContactsError> AddressBook::read() const 
     if (!obstacle) {
         file_ = read;
         state_ = state;
-        QMetaObject::invokeMethod(&turn_, [this] { file_.reset(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            &turn_,
+            [this] {
+                const FreedMemoryReturns afterReading;
+                file_.reset();
+            },
+            Qt::QueuedConnection);
     }
     return read;
 }
