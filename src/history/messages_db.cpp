@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <algorithm>
+#include <chrono>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -18,6 +19,29 @@ struct StatementCloser {
     void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 };
 using Statement = std::unique_ptr<sqlite3_stmt, StatementCloser>;
+
+/// Interrupts what the connection does once the time is over, as long as this lives. A history that
+/// is damaged or made to, such as with a view without end, would hold the window up for ever.
+class TimeLimit {
+  public:
+    TimeLimit(sqlite3* connection, double seconds)
+        : connection_(connection), end_(Clock::now() + std::chrono::duration<double>(seconds)) {
+        constexpr int stepsBetweenLooks = 10'000;
+        sqlite3_progress_handler(
+            connection_, stepsBetweenLooks,
+            [](void* limit) { return Clock::now() > static_cast<TimeLimit*>(limit)->end_ ? 1 : 0; },
+            this);
+    }
+    ~TimeLimit() { sqlite3_progress_handler(connection_, 0, nullptr, nullptr); }
+    TimeLimit(const TimeLimit&) = delete;
+    TimeLimit& operator=(const TimeLimit&) = delete;
+
+  private:
+    using Clock = std::chrono::steady_clock;
+
+    sqlite3* connection_;
+    std::chrono::time_point<Clock, std::chrono::duration<double>> end_;
+};
 
 // What cannot be bound stays NULL and matches nothing.
 void bind(const Statement& statement, int position, const MessagesDB::Bind& value) {
@@ -113,7 +137,8 @@ std::expected<MessagesDB, DBError> MessagesDB::open(const QString& path) {
 }
 
 std::expected<std::vector<MessagesDB::Row>, DBError> MessagesDB::query(
-    const QString& sql, const std::vector<Bind>& binds) {
+    const QString& sql, const std::vector<Bind>& binds, double seconds) {
+    const TimeLimit limit(db_.get(), seconds);
     sqlite3_stmt* prepared = nullptr;
     const int prepareCode =
         sqlite3_prepare_v2(db_.get(), sql.toUtf8().constData(), -1, &prepared, nullptr);
@@ -159,24 +184,42 @@ std::expected<std::optional<ThreadInfo>, DBError> MessagesDB::thread(
     QStringList handles = handleVariants(phone) + otherHandles;
     for (const QString& handle : otherHandles)
         handles.append(handle.toLower());
+    // SQLite takes a limited number of values. Where they take several pieces, the newest wins.
+    constexpr qsizetype most = 500;
+    QString columns = u"m.service, m.destination_caller_id"_s;
+    if (handles.size() > most)
+        columns += u", m.date"_s;
+    Row newest;
+    for (qsizetype first = 0; first < handles.size(); first += most) {
+        const qsizetype count = std::min(most, handles.size() - first);
+        auto row = newestMessage(handles.sliced(first, count), columns);
+        if (!row)
+            return std::unexpected(std::move(row.error()));
+        if (newest.empty() || (!row->empty() && integerOf(row->back()) > integerOf(newest.back())))
+            newest = std::move(*row);
+    }
+    if (newest.empty())
+        return std::nullopt;
+    return ThreadInfo{textOf(newest[0]), textOf(newest[1])};
+}
+
+std::expected<MessagesDB::Row, DBError> MessagesDB::newestMessage(const QStringList& handles,
+                                                                  const QString& columns) {
     // Style 45 is a one-to-one conversation.
-    const QString sql =
-        u"SELECT m.service, m.destination_caller_id FROM chat_handle_join ch\n"
-        "JOIN handle h ON h.ROWID = ch.handle_id\n"
-        "JOIN chat c ON c.ROWID = ch.chat_id AND c.style = 45\n"
-        "JOIN chat_message_join j ON j.chat_id = c.ROWID\n"
-        "JOIN message m ON m.ROWID = j.message_id\n"
-        "WHERE h.id IN ("_s +
-        placeholders(handles.size()) +
-        u") AND m.error = 0\n"
-        "ORDER BY m.date DESC LIMIT 1"_s;
+    const QString sql = u"SELECT "_s + columns +
+                        u" FROM chat_handle_join ch\n"
+                        "JOIN handle h ON h.ROWID = ch.handle_id\n"
+                        "JOIN chat c ON c.ROWID = ch.chat_id AND c.style = 45\n"
+                        "JOIN chat_message_join j ON j.chat_id = c.ROWID\n"
+                        "JOIN message m ON m.ROWID = j.message_id\n"
+                        "WHERE h.id IN ("_s +
+                        placeholders(handles.size()) +
+                        u") AND m.error = 0\n"
+                        "ORDER BY m.date DESC LIMIT 1"_s;
     auto rows = query(sql, bindAll(handles));
     if (!rows)
         return std::unexpected(std::move(rows.error()));
-    if (rows->empty())
-        return std::nullopt;
-    const Row& newest = rows->front();
-    return ThreadInfo{textOf(newest[0]), textOf(newest[1])};
+    return rows->empty() ? Row() : std::move(rows->front());
 }
 
 std::expected<std::optional<SentRecord>, DBError> MessagesDB::lastSent(const QString& phone,

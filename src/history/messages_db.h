@@ -40,11 +40,15 @@ class MessagesDB {
     /// is missing or may not be opened, with Kind::query when it is no history or is locked.
     [[nodiscard]] static std::expected<MessagesDB, DBError> open(const QString& path);
 
+    /// Seconds after which a statement is interrupted.
+    static constexpr double longestQuery = 10;
+
     /// Prepares, binds, runs and finalizes one statement: all its rows. Fails with Kind::query, as
     /// every operation below, when SQLite refuses the statement or a row (a missing table, a lock,
-    /// a damaged file).
+    /// a damaged file) or is not done within `seconds`.
     [[nodiscard]] std::expected<std::vector<Row>, DBError> query(const QString& sql,
-                                                                 const std::vector<Bind>& binds);
+                                                                 const std::vector<Bind>& binds,
+                                                                 double seconds = longestQuery);
 
     /// The "+" numbers that the user sent from in the 90 days before `now`, at most 6, the busiest
     /// first.
@@ -68,6 +72,8 @@ class MessagesDB {
     explicit MessagesDB(std::unique_ptr<sqlite3, Closer> db) : db_(std::move(db)) {}
 
     [[nodiscard]] DBError queryError() const;
+    [[nodiscard]] std::expected<Row, DBError> newestMessage(const QStringList& handles,
+                                                            const QString& columns);
 
     std::unique_ptr<sqlite3, Closer> db_;
 };

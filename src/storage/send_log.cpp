@@ -85,11 +85,10 @@ void SendLog::retry() {
     std::vector<Change> left = std::exchange(waiting_, {});
     while (!left.empty()) {
         const QString path = left.front().path;
-        const auto others = std::ranges::stable_partition(
-            left, [&path](const Change& each) { return each.path == path; });
-        std::vector<Change> changes(std::make_move_iterator(left.begin()),
-                                    std::make_move_iterator(others.begin()));
-        left.erase(left.begin(), others.begin());
+        const auto isOfFile = [&path](const Change& each) { return each.path == path; };
+        std::vector<Change> changes;
+        std::ranges::copy_if(left, std::back_inserter(changes), isOfFile);
+        std::erase_if(left, isOfFile);
         bool written = false;
         // A second time for a file that has come or gone just then.
         for (int turn = 0; turn < 2 && !written; ++turn) {

@@ -70,6 +70,23 @@ TEST_F(MessagesDBTest, SaysInASentenceWhyItCannotBeRead) {
     EXPECT_EQ(whyNotOpened(), u"Couldn't read Messages history: database is locked");
 }
 
+// A view without end would hold the window up for ever; more addresses than SQLite takes at once
+// would hide a conversation.
+TEST_F(MessagesDBTest, AnswersInTimeAndAboutAnyNumberOfAddresses) {
+    record({.handle = annsPhone});
+    const auto endless = open().query(
+        u"WITH RECURSIVE n AS (SELECT 1 UNION ALL SELECT 1 FROM n) SELECT 1 FROM n, n, n WHERE 0"_s,
+        {}, 0.05);
+    EXPECT_EQ(endless.error().description(), u"Couldn't read Messages history: interrupted");
+    QStringList addresses;
+    for (int n = 0; n < 40'000; ++n)
+        addresses.append(u"%1@example.com"_s.arg(n));
+    record({.handle = addresses[700], .line = u"+old"_s, .date = 5});
+    record({.handle = addresses[39'000], .line = u"+new"_s, .date = 7});
+    record({.handle = addresses[2], .line = u"+older"_s, .date = 1});
+    EXPECT_EQ(threadLine(addresses), u"+new");
+}
+
 TEST_F(MessagesDBTest, ReadsEachColumnByItsStorageAndLeavesTheFileAsItWas) {
     record({.handle = annsPhone});
     const QByteArray before = readFile(path).value();

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 #include "platform/mac/mac_look.h"
 #include "platform/mac/native_text.h"
@@ -22,6 +23,20 @@ NSImage* systemSymbol(const QString& name, double size, SymbolWeight weight) {
                             weight:weight == SymbolWeight::light ? NSFontWeightLight
                                                                  : NSFontWeightRegular];
     return [image imageWithSymbolConfiguration:configuration];
+}
+
+// How large a symbol's type is for a place of some height: the tallest just fit.
+constexpr double pointsForHeight = 0.8;
+
+// On the middle of a canvas, where all symbols of one size have one baseline: what they are aligned
+// by reaches from it to the height of a capital.
+NSRect onTheLine(QSize canvas, NSImage* image) {
+    const double scale = std::min(1.0, canvas.height() / image.size.height);
+    const NSRect aligned = image.alignmentRect;
+    const double middle = aligned.origin.y + aligned.size.height / 2;
+    const double width = image.size.width * scale;
+    return NSMakeRect((canvas.width() - width) / 2, canvas.height() / 2.0 - middle * scale, width,
+                      image.size.height * scale);
 }
 
 // As large as fits, in pixels.
@@ -67,15 +82,22 @@ QImage drawn(NSImage* image, QSize pixels, NSRect place) {
 
 class MacLook final : public NativeLook {
    public:
+    ~MacLook() override {
+        if (motion_ != nil) [NSWorkspace.sharedWorkspace.notificationCenter removeObserver:motion_];
+        if (colors_ != nil) [NSNotificationCenter.defaultCenter removeObserver:colors_];
+    }
+
     QImage symbol(const QString& name, QSize pixels, const QColor& tint,
                   SymbolWeight weight) const override {
         if (pixels.isEmpty()) return {};
-        NSImage* image = systemSymbol(name, std::min(pixels.width(), pixels.height()), weight);
+        NSImage* image = systemSymbol(name, pixels.height() * pointsForHeight, weight);
         if (image == nil) {
             qWarning("There is no symbol named \"%s\".", qUtf8Printable(name));
             return {};
         }
-        QImage canvas = drawn(image, pixels, centredIn(pixels, image.size));
+        const int width = static_cast<int>(std::ceil(image.size.width));
+        const QSize size(std::max(pixels.width(), width), pixels.height());
+        QImage canvas = drawn(image, size, onTheLine(size, image));
         if (canvas.isNull()) return {};
         QPainter painter(&canvas);
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
@@ -98,6 +120,43 @@ class MacLook final : public NativeLook {
     bool reducesMotion() const override {
         return NSWorkspace.sharedWorkspace.accessibilityDisplayShouldReduceMotion;
     }
+
+    bool nativeTitle() const override { return true; }
+    void showSubtitle(QWindow& window, const QString& subtitle) const override {
+        NSView* view = (__bridge NSView*)reinterpret_cast<void*>(window.winId());
+        view.window.subtitle = nativeText(subtitle);
+    }
+    bool staysWithoutWindow() const override { return true; }
+
+    QColor accent() const override {
+        NSColor* color =
+            [NSColor.controlAccentColor colorUsingColorSpace:NSColorSpace.sRGBColorSpace];
+        if (color == nil) return {};
+        return QColor::fromRgbF(static_cast<float>(color.redComponent),
+                                static_cast<float>(color.greenComponent),
+                                static_cast<float>(color.blueComponent));
+    }
+
+    void whenChanged(std::function<void()> changed) override {
+        void (^tell)(NSNotification*) = ^(NSNotification*) {
+            changed();
+        };
+        NSOperationQueue* interface = NSOperationQueue.mainQueue;
+        motion_ = [NSWorkspace.sharedWorkspace.notificationCenter
+            addObserverForName:NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification
+                        object:nil
+                         queue:interface
+                    usingBlock:tell];
+        colors_ = [NSNotificationCenter.defaultCenter
+            addObserverForName:NSSystemColorsDidChangeNotification
+                        object:nil
+                         queue:interface
+                    usingBlock:tell];
+    }
+
+   private:
+    id<NSObject> motion_ = nil;
+    id<NSObject> colors_ = nil;
 };
 
 }  // namespace

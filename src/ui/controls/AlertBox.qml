@@ -2,21 +2,21 @@ import QtQuick
 import QtQuick.Layouts
 import Velmora
 
-/// The one alert: the application's icon, a title, a sentence and OK.
+/// An alert: the application's icon, a title, a sentence and at most two buttons.
 SheetPanel {
     id: alert
 
-    property string title
-    property string message
+    property alertContent content
 
+    signal acted
     signal dismissed
 
     implicitWidth: 280
     implicitHeight: column.implicitHeight + 36
     radius: Theme.largeRadius
     Accessible.role: Accessible.AlertMessage
-    Accessible.name: title
-    Accessible.description: message
+    Accessible.name: content.title
+    Accessible.description: content.message
     Component.onCompleted: Announcer.alert(alert)
     onAccepted: dismissed()
     onCancelled: dismissed()
@@ -37,7 +37,7 @@ SheetPanel {
         }
         BodyText {
             Layout.fillWidth: true
-            text: alert.title
+            text: alert.content.title
             font.weight: Font.Bold
             horizontalAlignment: Text.AlignHCenter
         }
@@ -46,23 +46,35 @@ SheetPanel {
             Layout.fillWidth: true
             Layout.fillHeight: true
             contentHeight: words.implicitHeight
-            accessibleName: alert.title
+            accessibleName: alert.content.title
 
             BodyText {
                 id: words
                 width: area.width
-                text: alert.message
+                text: alert.content.message
                 font.pixelSize: Theme.callout
                 horizontalAlignment: Text.AlignHCenter
             }
         }
-        PushButton {
-            Layout.fillWidth: true
+        RowLayout {
             Layout.topMargin: 10
-            text: "OK"
-            kind: PushButton.Prominent
-            controlSize: PushButton.Large
-            onClicked: alert.dismissed()
+            spacing: Theme.gap
+
+            PushButton {
+                Layout.fillWidth: true
+                visible: text.length > 0
+                text: alert.content.action
+                kind: PushButton.Destructive
+                controlSize: PushButton.Large
+                onClicked: alert.acted()
+            }
+            PushButton {
+                Layout.fillWidth: true
+                text: alert.content.dismissal
+                kind: PushButton.Prominent
+                controlSize: PushButton.Large
+                onClicked: alert.dismissed()
+            }
         }
     }
 }

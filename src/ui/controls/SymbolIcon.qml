@@ -15,6 +15,7 @@ Image {
     source: SymbolAddress.of(name, color, light)
     sourceSize.width: size
     sourceSize.height: size
-    fillMode: Image.PreserveAspectFit
+    // A wide symbol reaches beyond its place on both sides.
+    fillMode: Image.Pad
     Accessible.ignored: true
 }

@@ -20,7 +20,9 @@ QtObject {
     readonly property color secondary: dark ? "#b3b3b8" : "#5a5a5f"
     readonly property color tertiary: dark ? "#a8a8ae" : "#66666b"
     readonly property color accentText: dark ? "#66aeff" : "#0b5fd0"
-    readonly property color overAccent: "#ffffff"
+    // White up to the accents that are too light for it, such as yellow.
+    readonly property color overAccent: choosesAccent || accent.hslLightness < 0.6 ? "#ffffff"
+                                                                                  : "#1d1d1f"
     readonly property color red: dark ? "#ff8078" : "#cc1f1a"
     readonly property color orange: dark ? "#ffa733" : "#c76200"
     readonly property color green: dark ? "#3fd160" : "#1a7331"
@@ -51,10 +53,15 @@ QtObject {
     readonly property color shadow: dark ? "#66000000" : "#33000000"
 
     // What is chosen, pressed or focused.
-    readonly property color accent: dark ? "#0f6ae0" : "#0a66dd"
-    readonly property color accentHover: dark ? "#1a73e8" : "#0960d0"
-    readonly property color accentPressed: dark ? "#0c5ac0" : "#0852b3"
-    readonly property color focusRing: dark ? "#8066aeff" : "#800a66dd"
+    readonly property bool choosesAccent: !SystemAppearance.accent.valid
+    readonly property color accent: !choosesAccent ? SystemAppearance.accent
+                                                   : dark ? "#0f6ae0" : "#0a66dd"
+    readonly property color accentHover: !choosesAccent ? Qt.lighter(accent, 1.06)
+                                                        : dark ? "#1a73e8" : "#0960d0"
+    readonly property color accentPressed: !choosesAccent ? Qt.darker(accent, 1.2)
+                                                          : dark ? "#0c5ac0" : "#0852b3"
+    readonly property color focusRing: !choosesAccent ? Qt.alpha(accent, 0.5)
+                                                      : dark ? "#8066aeff" : "#800a66dd"
     readonly property color selection: dark ? "#3d5f8f" : "#b8d4fb"
 
     // Spacing and shape.

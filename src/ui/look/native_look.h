@@ -4,6 +4,8 @@
 #include <QImage>
 #include <QSize>
 #include <QString>
+#include <QWindow>
+#include <functional>
 
 namespace velmora {
 
@@ -17,9 +19,10 @@ class NativeLook {
   public:
     virtual ~NativeLook() = default;
 
-    /// The symbol `name`, as large as fits into `pixels` (device pixels) with its aspect kept,
-    /// centred on a transparent image of exactly that size and drawn in `tint` alone. A null image
-    /// when the size is empty, and with a warning when the name is unknown. From any thread.
+    /// The symbol `name` for a place of `pixels` (device pixels), centred on a transparent image and
+    /// drawn in `tint` alone. The image is exactly as high as its place; where symbols are of
+    /// different widths at one height, it may be wider. A null image when the size is empty, and
+    /// with a warning when the name is unknown. From any thread.
     [[nodiscard]] virtual QImage symbol(const QString& name, QSize pixels, const QColor& tint,
                                         SymbolWeight weight) const = 0;
 
@@ -37,6 +40,25 @@ class NativeLook {
 
     /// Whether the user asked for less movement on the screen, at this moment.
     [[nodiscard]] virtual bool reducesMotion() const = 0;
+
+    // What follows is different only where the desktop has a way of its own.
+
+    /// Whether the window's own title bar shows title and subtitle; otherwise the window draws
+    /// them.
+    [[nodiscard]] virtual bool nativeTitle() const { return false; }
+    /// Shows `subtitle` in the title bar of `window`, which is on the screen.
+    virtual void showSubtitle(QWindow& window, const QString& subtitle) const {
+        Q_UNUSED(window)
+        Q_UNUSED(subtitle)
+    }
+    /// Whether an application stays when its window is closed, to show it again when it is called.
+    [[nodiscard]] virtual bool staysWithoutWindow() const { return false; }
+    /// The colour that the user chose for what is chosen or pressed, at this moment; an invalid one
+    /// leaves the choice to the theme.
+    [[nodiscard]] virtual QColor accent() const { return {}; }
+    /// Calls `changed` on the interface thread whenever one of these may have changed, as long as
+    /// this lives. Called once.
+    virtual void whenChanged(std::function<void()> changed) { Q_UNUSED(changed) }
 };
 
 /// How many points the width of the pointer's picture stands for.

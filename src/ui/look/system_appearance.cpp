@@ -30,6 +30,13 @@ void SystemAppearance::setMotion(bool animated, bool reduced) {
     Q_EMIT motionChanged();
 }
 
+void SystemAppearance::setAccent(const QColor& accent) {
+    if (accent == accent_)
+        return;
+    accent_ = accent;
+    Q_EMIT accentChanged();
+}
+
 QString SystemAppearance::fontFamily() const {
     return QGuiApplication::font().family();
 }

@@ -7,8 +7,10 @@ UnspokenArea {
     id: content
 
     required property Presentation presentation
+    /// Whether title and subtitle are shown here.
+    property bool titled: true
 
-    readonly property int headerHeight: header.height
+    readonly property int headerHeight: titled ? header.height : 0
     readonly property int detailMinimum: 380
     readonly property int composeWidth: 340
     readonly property int sidebarMinimum: 200
@@ -43,6 +45,7 @@ UnspokenArea {
             DetailHeader {
                 id: header
                 Layout.fillWidth: true
+                visible: content.titled
                 title: content.presentation.window.title
                 subtitle: content.presentation.window.subtitle
             }

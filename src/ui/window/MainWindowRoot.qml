@@ -10,13 +10,14 @@ T.ApplicationWindow {
 
     required property Presentation presentation
     required property bool nativeMenus
+    required property bool nativeTitle
 
     readonly property int barHeight: nativeMenus ? 0 : bar.height
 
     width: 1240
     height: 740 + barHeight
     minimumWidth: 960
-    // What a Mac's title bar shows is drawn here, above the content.
+    // What the title bar does not show is drawn here, above the content.
     minimumHeight: 580 + content.headerHeight + barHeight
     title: presentation.window.title
     color: Theme.windowBackground
@@ -47,6 +48,7 @@ T.ApplicationWindow {
         id: content
         anchors.fill: parent
         presentation: root.presentation
+        titled: !root.nativeTitle
     }
     SheetHost {
         presentation: root.presentation

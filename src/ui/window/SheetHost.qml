@@ -56,8 +56,8 @@ Item {
         // A sheet that opens under the alert takes the keyboard with it.
         onActiveFocusChanged: host.keepKeyboard()
         sheet: AlertBox {
-            title: "Velmora"
-            message: host.window.alertText
+            content: host.window.alert
+            onActed: host.window.stopAndQuit()
             onDismissed: host.window.dismissAlert()
         }
     }

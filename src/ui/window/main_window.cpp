@@ -24,17 +24,20 @@ MainWindow::MainWindow(AppModel& model, std::unique_ptr<NativeLook> look, Motion
         look = std::make_unique<DrawnLook>();
     if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME"))
         qputenv("QT_QPA_UPDATE_IDLE_TIME", updatePause);
-    const NativeLook* asked = look.get();
+    NativeLook* asked = look.get();
     prepareViews(engine_, std::move(look));
     auto* appearance = engine_.singletonInstance<SystemAppearance*>(
         qmlTypeId("Velmora", 1, 0, "SystemAppearance"));
     // The engine has the look, which lives as long as what follows it.
-    const auto followMotion = [appearance, motion, asked] {
+    const auto followLook = [appearance, motion, asked] {
         appearance->setMotion(motion == Motion::animated, asked->reducesMotion());
+        appearance->setAccent(asked->accent());
     };
-    followMotion();
+    followLook();
+    asked->whenChanged(followLook);
     engine_.setInitialProperties({{u"presentation"_s, QVariant::fromValue(&presentation_)},
-                                  {u"nativeMenus"_s, asked->nativeMenuBar()}});
+                                  {u"nativeMenus"_s, asked->nativeMenuBar()},
+                                  {u"nativeTitle"_s, asked->nativeTitle()}});
     engine_.load(QUrl(u"qrc:/qt/qml/Velmora/MainWindowRoot.qml"_s));
     if (!engine_.rootObjects().isEmpty())
         window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
@@ -46,12 +49,28 @@ MainWindow::MainWindow(AppModel& model, std::unique_ptr<NativeLook> look, Motion
         [this] { presentation_.window()->windowShown(); },
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     QObject::connect(qApp, &QGuiApplication::applicationStateChanged, appearance,
-                     [this, followMotion](Qt::ApplicationState state) {
-                         if (state == Qt::ApplicationActive) {
-                             followMotion();
-                             presentation_.window()->applicationActivated();
-                         }
+                     [this, followLook](Qt::ApplicationState state) {
+                         if (state != Qt::ApplicationActive)
+                             return;
+                         followLook();
+                         presentation_.window()->applicationActivated();
+                         if (!window_->isVisible() && !QGuiApplication::quitOnLastWindowClosed())
+                             show();
                      });
+    followWindow(*asked);
+}
+
+void MainWindow::followWindow(const NativeLook& look) {
+    MainWindowModel* model = presentation_.window();
+    QGuiApplication::setQuitOnLastWindowClosed(!look.staysWithoutWindow());
+    QObject::connect(model, &MainWindowModel::changed, window_, [this, &look, model] {
+        if (window_->isVisible())
+            look.showSubtitle(*window_, model->subtitle());
+    });
+    QObject::connect(model, &MainWindowModel::attentionWanted, window_, [this] {
+        if (QGuiApplication::applicationState() != Qt::ApplicationActive)
+            window_->alert(0);
+    });
 }
 
 void MainWindow::show() {

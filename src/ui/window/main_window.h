@@ -32,6 +32,8 @@ class MainWindow final {
     [[nodiscard]] Presentation& presentation() { return presentation_; }
 
   private:
+    void followWindow(const NativeLook& look);
+
     Presentation presentation_;
     QQmlApplicationEngine engine_;
     QQuickWindow* window_ = nullptr;

@@ -1,11 +1,13 @@
 #include "ui/window/main_window_model.h"
 
+#include <QCoreApplication>
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace velmora {
 
-MainWindowModel::MainWindowModel(AppModel& model)
-    : model_(model), alertText_(model.alert.value().value_or(QString())) {
+MainWindowModel::MainWindowModel(AppModel& model) : model_(model) {
     const auto announce = [this](auto signal) {
         connect(&model_, signal, this, &MainWindowModel::changed);
     };
@@ -22,8 +24,9 @@ MainWindowModel::MainWindowModel(AppModel& model)
     announce(&AppModel::skippedFDAHelpChanged);
     announce(&AppModel::skippedSenderSetupChanged);
     connect(&model_, &AppModel::alertChanged, this, &MainWindowModel::followAlert);
-    connect(&model_.runner(), &Runner::stateChanged, this, &MainWindowModel::changed);
+    connect(&model_.runner(), &Runner::stateChanged, this, &MainWindowModel::followRun);
     connect(&model_, &AppModel::settingsRequested, this, &MainWindowModel::settingsRequested);
+    followAlert();
 }
 
 QString MainWindowModel::title() const {
@@ -98,20 +101,47 @@ void MainWindowModel::followBanner() {
 }
 
 bool MainWindowModel::alertShown() const {
-    return model_.alert.value().has_value();
-}
-
-QString MainWindowModel::alertText() const {
-    return alertText_;
+    return asksToQuit_ || model_.alert.value().has_value();
 }
 
 void MainWindowModel::followAlert() {
-    alertText_ = model_.alert.value().value_or(alertText_);
+    if (asksToQuit_)
+        alert_ = question();
+    else if (const auto& sentence = model_.alert.value())
+        alert_ = {.title = u"Velmora"_s, .message = *sentence, .dismissal = u"OK"_s};
     Q_EMIT changed();
 }
 
+void MainWindowModel::followRun() {
+    const Runner& run = model_.runner();
+    asksToQuit_ = asksToQuit_ && run.isActive();
+    followAlert();
+    if (run.state == Runner::State::paused || run.state == Runner::State::done)
+        Q_EMIT attentionWanted();
+}
+
+AlertContent MainWindowModel::question() const {
+    const Runner& run = model_.runner();
+    const qint64 left = run.total - run.done - (run.current.value() ? 1 : 0);
+    const QString people = left == 1 ? u"1 person"_s : u"%1 people"_s.arg(left);
+    return {
+        .title = u"A run is still going."_s,
+        .message =
+            u"%1 would not be texted. Send again under the same run name, and it goes on with them."_s
+                .arg(people),
+        .action = u"Stop and Quit"_s,
+        .dismissal = u"Cancel"_s};
+}
+
 void MainWindowModel::dismissAlert() {
-    model_.alert = std::nullopt;
+    if (!std::exchange(asksToQuit_, false))
+        model_.alert = std::nullopt;
+    followAlert();
+}
+
+void MainWindowModel::stopAndQuit() {
+    model_.runner().stop();
+    QCoreApplication::exit();
 }
 
 MainWindowModel::Sheet MainWindowModel::sheet() const {
@@ -131,7 +161,8 @@ bool MainWindowModel::commandsEnabled() const {
 bool MainWindowModel::mayClose() {
     if (!model_.runner().isActive() || model_.sessionEnds())
         return true;
-    model_.alert = u"A run is still going. Stop it and let it end, then close Velmora."_s;
+    asksToQuit_ = true;
+    followAlert();
     return false;
 }
 

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "app/app_model.h"
+#include "ui/controls/alert_content.h"
 #include "ui/controls/empty_state_content.h"
 #include "ui/look/tone.h"
 
@@ -44,7 +45,7 @@ class MainWindowModel final : public QObject {
     Q_PROPERTY(velmora::EmptyStateContent emptyState READ emptyState NOTIFY changed)
     Q_PROPERTY(velmora::Banner banner READ banner NOTIFY changed)
     Q_PROPERTY(bool alertShown READ alertShown NOTIFY changed)
-    Q_PROPERTY(QString alertText READ alertText NOTIFY changed)
+    Q_PROPERTY(velmora::AlertContent alert READ alert NOTIFY changed)
     Q_PROPERTY(Sheet sheet READ sheet NOTIFY changed)
     Q_PROPERTY(bool commandsEnabled READ commandsEnabled NOTIFY changed)
 
@@ -70,9 +71,13 @@ class MainWindowModel final : public QObject {
     Q_INVOKABLE void followBanner();
 
     [[nodiscard]] bool alertShown() const;
-    /// The last alert's words, which stay while it leaves.
-    [[nodiscard]] QString alertText() const;
+    /// The last alert's words, which stay while it leaves. The question whether to end a run comes
+    /// before any other.
+    [[nodiscard]] AlertContent alert() const { return alert_; }
+    /// Lets the alert go; the run goes on.
     Q_INVOKABLE void dismissAlert();
+    /// Ends the run, whose text in hand stands in the log, and the program.
+    Q_INVOKABLE void stopAndQuit();
 
     /// The first sheet, in the order of the enumeration, whose condition holds.
     [[nodiscard]] Sheet sheet() const;
@@ -80,7 +85,7 @@ class MainWindowModel final : public QObject {
     /// Whether the commands that act on the window's content are offered: nothing covers it.
     [[nodiscard]] bool commandsEnabled() const;
     /// Whether the main window may close, and the application end with it. During a run it answers
-    /// false and the alert says what to do first, except at the end of the computer's session.
+    /// false and the alert asks, except at the end of the computer's session.
     Q_INVOKABLE bool mayClose();
 
     /// Starts the application model, at the first call only.
@@ -91,15 +96,20 @@ class MainWindowModel final : public QObject {
   Q_SIGNALS:
     void changed();
     void settingsRequested();
+    /// A run waits for the user, or has ended.
+    void attentionWanted();
 
   private:
     enum class Todo { none, fullDiskAccess, sendingNumber };
 
     [[nodiscard]] Todo todo() const;
     void followAlert();
+    void followRun();
+    [[nodiscard]] AlertContent question() const;
 
     AppModel& model_;
-    QString alertText_;
+    bool asksToQuit_ = false;
+    AlertContent alert_;
     std::optional<QCoro::Task<>> startUp_;
 };
 

@@ -63,12 +63,27 @@ TEST_F(WindowModels, ARunIsClosedOnlyByTheEndOfTheSession) {
     withFriends().selectShown();
     model->startRun();
     MainWindowModel window(*model);
+    const QSignalSpy attention(&window, &MainWindowModel::attentionWanted);
+    model->alert = u"Something else."_s;
     EXPECT_FALSE(window.mayClose());
+    EXPECT_EQ(window.alert().title, u"A run is still going."_s);
+    EXPECT_EQ(window.alert().message,
+              u"3 people would not be texted. Send again under the same run name, and it goes on "
+              "with them."_s);
+    window.dismissAlert();
+    EXPECT_EQ(window.alert().message, u"Something else."_s);
+    window.dismissAlert();
+    EXPECT_FALSE(window.alertShown());
     // What the desktop announces; nobody looks at what comes with it.
     QMetaObject::invokeMethod(qApp, "commitDataRequest",
                               QGenericArgument("QSessionManager&", qApp));
     EXPECT_TRUE(window.mayClose());
     EXPECT_TRUE(model->runner().isActive());
+    window.stopAndQuit();
+    EXPECT_EQ(model->runner().state.value(), Runner::State::stopping);
+    EXPECT_EQ(attention.size(), 0);
+    EXPECT_TRUE(world.clock.runUntilIdle());
+    EXPECT_EQ(attention.size(), 1);
 }
 
 // Catches a second start that leaves the window in the Dock, or makes a large one small.

@@ -165,13 +165,13 @@ TEST_F(WindowTest, MenusAndShortcutsDoTheirWork) {
 
     user.key(Qt::Key_W, command);
     EXPECT_TRUE(user.window().isVisible()) << "a run ended without a word";
-    ASSERT_TRUE(user.until([&] { return user.shows(u"OK"_s); }));
-    user.key(Qt::Key_Escape);
-    EXPECT_FALSE(model->alert.value().has_value());
+    ASSERT_TRUE(user.until([&] { return user.shows(u"A run is still going."_s); }));
+    user.key(Qt::Key_Return);
+    EXPECT_TRUE(user.until([&] { return !user.shows(u"Cancel"_s); }));
+    EXPECT_TRUE(model->runner().isActive());
     QEvent quit(QEvent::Quit);
     QCoreApplication::sendEvent(qApp, &quit);
-    EXPECT_TRUE(user.window().isVisible() && model->alert.value().has_value());
-    model->runner().stop();
+    EXPECT_TRUE(user.window().isVisible() && user.click(u"Stop and Quit"_s));
     ASSERT_TRUE(user.until([&] { return !model->runner().isActive(); }));
     EXPECT_TRUE(user.window().close());
 }

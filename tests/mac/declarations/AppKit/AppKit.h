@@ -10,7 +10,10 @@ struct NSSize {
 struct NSPoint {
     CGFloat x, y;
 };
-struct NSRect {};
+struct NSRect {
+    NSPoint origin;
+    NSSize size;
+};
 NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat width, CGFloat height);
 extern const NSRect NSZeroRect;
 
@@ -35,6 +38,7 @@ enum NSApplicationActivationOptions : NSUInteger { NSApplicationActivateAllWindo
 @interface NSWorkspace : NSObject
 @property(class, readonly) NSWorkspace *sharedWorkspace;
 @property(readonly) BOOL accessibilityDisplayShouldReduceMotion;
+@property(readonly) NSNotificationCenter *notificationCenter;
 - (BOOL)openURL:(NSURL *)url;
 - (NSURL *)URLForApplicationWithBundleIdentifier:(NSString *)identifier;
 - (void)openApplicationAtURL:(NSURL *)url
@@ -53,6 +57,7 @@ enum NSCompositingOperation : NSUInteger { NSCompositingOperationSourceOver = 2 
                  accessibilityDescription:(NSString *)description;
 - (NSImage *)imageWithSymbolConfiguration:(NSImageSymbolConfiguration *)configuration;
 @property(readonly) NSSize size;
+@property(readonly) NSRect alignmentRect;
 - (void)drawInRect:(NSRect)target
           fromRect:(NSRect)source
          operation:(NSCompositingOperation)operation
@@ -70,4 +75,20 @@ enum NSCompositingOperation : NSUInteger { NSCompositingOperationSourceOver = 2 
 @interface NSApplication : NSObject
 @property(class, readonly) __kindof NSApplication *sharedApplication;
 @property(readonly) NSImage *applicationIconImage;
+@end
+extern NSString *const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification;
+extern NSString *const NSSystemColorsDidChangeNotification;
+@interface NSColorSpace : NSObject
+@property(class, readonly) NSColorSpace *sRGBColorSpace;
+@end
+@interface NSColor : NSObject
+@property(class, readonly) NSColor *controlAccentColor;
+- (NSColor *)colorUsingColorSpace:(NSColorSpace *)space;
+@property(readonly) CGFloat redComponent, greenComponent, blueComponent;
+@end
+@interface NSWindow : NSObject
+@property(copy) NSString *subtitle;
+@end
+@interface NSView : NSObject
+@property(readonly) NSWindow *window;
 @end

@@ -95,3 +95,15 @@ typedef const struct __attribute__((objc_bridge(NSString))) __CFString *CFString
 #define CFSTR(text) ((__bridge CFStringRef) @text)
 CFPropertyListRef CFPreferencesCopyAppValue(CFStringRef key, CFStringRef application);
 id CFBridgingRelease(CFTypeRef __attribute__((cf_consumed)) value);
+@class NSNotification;
+@interface NSOperationQueue : NSObject
+@property(class, readonly) NSOperationQueue *mainQueue;
+@end
+@interface NSNotificationCenter : NSObject
+@property(class, readonly) NSNotificationCenter *defaultCenter;
+- (id<NSObject>)addObserverForName:(NSString *)name
+                            object:(id)object
+                             queue:(NSOperationQueue *)queue
+                        usingBlock:(void (^)(NSNotification *notification))block;
+- (void)removeObserver:(id)observer;
+@end
