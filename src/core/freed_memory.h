@@ -13,7 +13,7 @@ class FreedMemoryReturns {
     FreedMemoryReturns& operator=(const FreedMemoryReturns&) = delete;
 
   private:
-    long delayBefore_ = 0;  // milliseconds
+    [[maybe_unused]] long delayBefore_ = 0;  // milliseconds
 };
 
 }  // namespace velmora
