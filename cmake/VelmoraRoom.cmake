@@ -28,6 +28,7 @@ endif()
 # moment later. Not under the sanitizers, which watch every allocation with one of their own.
 if(NOT APPLE AND NOT VELMORA_SANITIZE)
   target_link_libraries(velmora_options INTERFACE mimalloc)
+  target_compile_definitions(velmora_options INTERFACE VELMORA_MIMALLOC)
 endif()
 
 # velmora_look_for_types(<target> <sources>)

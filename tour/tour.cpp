@@ -52,7 +52,7 @@ void writeMessage(Stage& stage) {
     stage.user().key(Qt::Key_A, Qt::ControlModifier);
     stage.user().type(u"Hi {first_name}, dinner on Friday at eight? I'm cooking.{custom_note}"_s);
     stage.model().setNote(u"p01"_s, u"Bring the photos!"_s);
-    const QString text = stage.model().recipients().front().text;
+    const QString text = stage.model().textFor(stage.model().recipients().front());
     stage.expect(text == u"Hi Ann, dinner on Friday at eight? I'm cooking. Bring the photos!",
                  u"Ann's text is "_s + text);
     stage.show(u"message"_s);

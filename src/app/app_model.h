@@ -144,12 +144,15 @@ class AppModel final : public AppState {
     /// The chosen list's message: the built-in one when it has none of its own, empty without a
     /// list.
     [[nodiscard]] QString currentTemplate() const;
-    /// Stores the chosen list's message and renders every text again. Does nothing without a list;
+    /// Stores the chosen list's message and with it everyone's text. Does nothing without a list;
     /// the texts of a run that is active stay as they are.
     void setCurrentTemplate(const QString& text);
     /// Adds `snippet` at the end of the message, as `setCurrentTemplate` does.
     void appendToTemplate(const QString& snippet);
     [[nodiscard]] bool isPersonalised() const;
+    /// What this person is to receive: the message with their name and note put in. Empty for
+    /// someone who cannot be sent, and without a message.
+    [[nodiscard]] QString textFor(const Recipient& recipient) const;
 
     // The run and the test send.
 
@@ -184,8 +187,6 @@ class AppModel final : public AppState {
     void restoreSelection(const QSet<QString>& selection);
 
     // The message (app_model_message.cpp).
-    void refreshText(const QString& id);
-    void refreshTexts(std::vector<Recipient>& list) const;
     [[nodiscard]] QString textFor(const Recipient& recipient, const QStringList& versions) const;
 
     // The run (app_model_run.cpp).
@@ -203,7 +204,7 @@ class AppModel final : public AppState {
     Runner runner_;
     AppConfig config_;
     std::vector<Recipient> recipients_;
-    RecipientSearch search_;
+    mutable std::optional<RecipientSearch> search_;  // made when somebody searches
     QSet<QString> selection_;
     QString loadedBatch_;
     QSet<QString> toldOf_;  // the run names whose logs do not tell who was texted

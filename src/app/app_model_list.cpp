@@ -1,10 +1,13 @@
 #include <QDir>
 #include <QScopedValueRollback>
+#include <algorithm>
+#include <numeric>
 #include <utility>
 
 #include "app/app_model.h"
 #include "app/recipient_check.h"
 #include "core/collation.h"
+#include "core/freed_memory.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,6 +32,7 @@ void AppModel::loadList() {
     const std::optional<QString> listID = config_.selectedGroupID;
     if (!listID)
         return;
+    const FreedMemoryReturns afterReading;
     loading = true;
     loadGroups();
     const auto people = contacts_.contactsInList(*listID);
@@ -72,9 +76,8 @@ void AppModel::tellOfLog() {
 }
 
 void AppModel::publish(std::vector<Recipient> list) {
-    refreshTexts(list);
     recipients_ = std::move(list);
-    search_ = RecipientSearch(recipients_);
+    search_.reset();
     Q_EMIT recipientsReplaced();
 }
 
@@ -94,7 +97,13 @@ void AppModel::restoreSelection(const QSet<QString>& selection) {
 }
 
 std::vector<qsizetype> AppModel::visibleRecipients() const {
-    std::vector<qsizetype> visible = search_.find(searchText);
+    std::vector<qsizetype> visible(recipients_.size());
+    std::iota(visible.begin(), visible.end(), 0);
+    if (!searchText.value().isEmpty()) {
+        if (!search_)
+            search_.emplace(recipients_);
+        visible = search_->find(searchText);
+    }
     if (selectedOnly)
         std::erase_if(visible, [this](qsizetype index) {
             return !selection_.contains(recipients_[static_cast<size_t>(index)].id);
@@ -153,7 +162,9 @@ void AppModel::setNote(const QString& id, const QString& note) {
         else
             config.notes.insert(id, note);
     });
-    refreshText(id);
+    const auto noted = std::ranges::find(recipients_, id, &Recipient::id);
+    if (noted != recipients_.end())
+        Q_EMIT recipientTextChanged(noted - recipients_.begin());
 }
 
 }  // namespace velmora

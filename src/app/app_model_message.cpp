@@ -13,7 +13,6 @@ void AppModel::setCurrentTemplate(const QString& text) {
     if (!config_.selectedGroupID)
         return;
     editConfig([&](AppConfig& config) { config.templates.insert(*config.selectedGroupID, text); });
-    refreshTexts(recipients_);
     Q_EMIT recipientTextsChanged();
 }
 
@@ -25,22 +24,8 @@ bool AppModel::isPersonalised() const {
     return TemplateRenderer::isPersonalised(currentTemplate());
 }
 
-void AppModel::refreshText(const QString& id) {
-    const QStringList versions = TemplateRenderer::splitVersions(currentTemplate());
-    for (qsizetype index = 0; index < std::ssize(recipients_); ++index) {
-        Recipient& recipient = recipients_[static_cast<size_t>(index)];
-        if (recipient.id == id) {
-            recipient.text = textFor(recipient, versions);
-            Q_EMIT recipientTextChanged(index);
-            return;
-        }
-    }
-}
-
-void AppModel::refreshTexts(std::vector<Recipient>& list) const {
-    const QStringList versions = TemplateRenderer::splitVersions(currentTemplate());
-    for (Recipient& recipient : list)
-        recipient.text = textFor(recipient, versions);
+QString AppModel::textFor(const Recipient& recipient) const {
+    return textFor(recipient, TemplateRenderer::splitVersions(currentTemplate()));
 }
 
 QString AppModel::textFor(const Recipient& recipient, const QStringList& versions) const {

@@ -86,10 +86,11 @@ void AppModel::startRun() {
         alert = refusal;
         return;
     }
+    const QStringList versions = TemplateRenderer::splitVersions(currentTemplate());
     std::vector<Runner::Item> items;
     for (const Recipient& each : recipients_)
         if (isQueued(each))
-            items.push_back({each.name, each.phone, each.text});
+            items.push_back({each.name, each.phone, textFor(each, versions)});
     runner_.start(batchName, items, config_);
 }
 

@@ -20,19 +20,6 @@ QString displayName(const ContactRecord& person, const QString& firstName) {
     return firstName.isEmpty() ? u"(no name)"_s : firstName;
 }
 
-Recipient recipientOf(const ContactRecord& person, const std::optional<BestPhone>& number) {
-    Recipient recipient;
-    recipient.id = person.identifier;
-    recipient.firstName = person.givenName.isEmpty() ? person.nickname : person.givenName;
-    recipient.name = displayName(person, recipient.firstName);
-    recipient.company = trimmedWhiteSpace(person.organizationName).toString();
-    if (number) {
-        recipient.phone = number->phone;
-        recipient.phoneLabel = number->label;
-    }
-    return recipient;
-}
-
 void block(Recipient& recipient, const QString& issue) {
     recipient.issue = issue;
     recipient.usable = false;
@@ -41,8 +28,21 @@ void block(Recipient& recipient, const QString& issue) {
 }  // namespace
 
 Recipient RecipientCheck::next(const ContactRecord& person) {
-    Recipient recipient = recipientOf(person, sources_.contacts.bestPhone(person));
+    Recipient recipient = recipientOf(person);
     check(recipient, person);
+    return recipient;
+}
+
+Recipient RecipientCheck::recipientOf(const ContactRecord& person) {
+    Recipient recipient;
+    recipient.id = person.identifier;
+    recipient.firstName = person.givenName.isEmpty() ? person.nickname : person.givenName;
+    recipient.name = displayName(person, recipient.firstName);
+    recipient.company = texts_.shared(trimmedWhiteSpace(person.organizationName).toString());
+    if (const auto number = sources_.contacts.bestPhone(person)) {
+        recipient.phone = number->phone;
+        recipient.phoneLabel = texts_.shared(number->label);
+    }
     return recipient;
 }
 
@@ -60,14 +60,17 @@ void RecipientCheck::check(Recipient& recipient, const ContactRecord& person) {
 }
 
 void RecipientCheck::checkThread(Recipient& recipient, const ContactRecord& person) {
-    recipient.thread =
+    const auto thread =
         sources_.history->thread(recipient.phone, person.emailAddresses).value_or(std::nullopt);
-    if (!recipient.thread)
+    if (!thread) {
         recipient.issue = newThreadNote;
-    else if (isOnOtherLine(*recipient.thread, sources_.senderNumber))
-        recipient.issue =
+        return;
+    }
+    recipient.thread = {texts_.shared(thread->service), texts_.shared(thread->line)};
+    if (isOnOtherLine(*thread, sources_.senderNumber))
+        recipient.issue = texts_.shared(
             u"Your thread with them is on %1. Text them once by hand from %2 first."_s.arg(
-                displayPhone(recipient.thread->line), displayPhone(sources_.senderNumber));
+                displayPhone(thread->line), displayPhone(sources_.senderNumber)));
 }
 
 bool needsAttention(const std::optional<QString>& issue) {

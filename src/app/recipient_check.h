@@ -6,6 +6,7 @@
 
 #include "contacts/contacts_service.h"
 #include "core/records.h"
+#include "core/shared_texts.h"
 #include "history/messages_db.h"
 
 namespace velmora {
@@ -25,15 +26,17 @@ class RecipientCheck {
 
     explicit RecipientCheck(Sources sources) : sources_(std::move(sources)) {}
 
-    /// The next person of the list, checked; the text still empty.
+    /// The next person of the list, checked.
     [[nodiscard]] Recipient next(const ContactRecord& person);
 
   private:
+    [[nodiscard]] Recipient recipientOf(const ContactRecord& person);
     void check(Recipient& recipient, const ContactRecord& person);
     void checkThread(Recipient& recipient, const ContactRecord& person);
 
     Sources sources_;
     QSet<QString> taken_;
+    SharedTexts texts_;  // companies, labels, services, lines and issues are few
 };
 
 /// True for an issue that the user has to look at: any but the note on a new thread.

@@ -26,8 +26,12 @@ QString digitsOf(const QString& text) {
 
 RecipientSearch::RecipientSearch(const std::vector<Recipient>& recipients) {
     people_.reserve(recipients.size());
+    const auto add = [this](const QString& part) {
+        text_ += part;
+        return text_.size();
+    };
     for (const Recipient& each : recipients)
-        people_.push_back({folded(each.name), folded(each.company), each.phone});
+        people_.push_back({add(folded(each.name)), add(folded(each.company)), add(each.phone)});
 }
 
 std::vector<qsizetype> RecipientSearch::find(const QString& typed) const {
@@ -36,12 +40,17 @@ std::vector<qsizetype> RecipientSearch::find(const QString& typed) const {
     const QStringMatcher text(folded(wanted));
     const QStringMatcher number(digits);
     std::vector<qsizetype> found;
+    qsizetype begin = 0;
     for (qsizetype index = 0; index < std::ssize(people_); ++index) {
-        const Person& person = people_[static_cast<size_t>(index)];
-        if (wanted.isEmpty() || text.indexIn(person.name) >= 0 ||
-            text.indexIn(person.company) >= 0 ||
-            (digits.size() >= 3 && number.indexIn(person.phone) >= 0))
+        const Ends& person = people_[static_cast<size_t>(index)];
+        const auto holds = [this](const QStringMatcher& part, qsizetype from, qsizetype to) {
+            return part.indexIn(QStringView(text_).sliced(from, to - from)) >= 0;
+        };
+        if (wanted.isEmpty() || holds(text, begin, person.name) ||
+            holds(text, person.name, person.company) ||
+            (digits.size() >= 3 && holds(number, person.company, person.phone)))
             found.push_back(index);
+        begin = person.phone;
     }
     return found;
 }

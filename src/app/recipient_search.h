@@ -7,11 +7,10 @@
 
 namespace velmora {
 
-/// Finds people of a list by name, company or phone while the user types. Holds the names and
-/// companies in the form that is compared, worked out once for a list.
+/// Finds people of a list by name, company or phone while the user types. Holds what is compared in
+/// one text, worked out once for a list.
 class RecipientSearch {
   public:
-    RecipientSearch() = default;
     explicit RecipientSearch(const std::vector<Recipient>& recipients);
 
     /// Indexes of those whose name or company contains `typed`, letter case ignored, or whose phone
@@ -20,13 +19,15 @@ class RecipientSearch {
     [[nodiscard]] std::vector<qsizetype> find(const QString& typed) const;
 
   private:
-    struct Person {
-        QString name;
-        QString company;
-        QString phone;
+    /// Where a person's part of the text ends; it begins where the one before ends.
+    struct Ends {
+        qsizetype name = 0;
+        qsizetype company = 0;
+        qsizetype phone = 0;
     };
 
-    std::vector<Person> people_;
+    QString text_;  // each person's name, company and phone, one behind the other
+    std::vector<Ends> people_;
 };
 
 }  // namespace velmora

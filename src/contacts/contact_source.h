@@ -2,6 +2,7 @@
 
 #include <qcoro/qcorotask.h>
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <expected>
@@ -26,8 +27,8 @@ struct ContactRecord {
     QString familyName;
     QString nickname;
     QString organizationName;
-    std::vector<PhoneEntry> phoneNumbers;  ///< in the card's order
-    QStringList emailAddresses;            ///< in the card's order
+    QList<PhoneEntry> phoneNumbers;  ///< in the card's order
+    QStringList emailAddresses;      ///< in the card's order
 };
 
 /// One address-book group.

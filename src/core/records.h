@@ -32,9 +32,8 @@ struct Recipient {
     QString company;
     std::optional<QString> issue;  ///< why the person can't be sent, or what to watch
     std::optional<ThreadInfo> thread;
-    bool usable = true;        ///< may be sent at all; else `text` is empty
+    bool usable = true;        ///< may be sent at all; else nothing is written to them
     bool alreadySent = false;  ///< the current run name's log holds a sent line for `phone`
-    QString text;              ///< the rendered message
 };
 
 /// One address-book group.

@@ -76,6 +76,8 @@ class AppHome : public ::testing::Test {
         throw std::runtime_error("no such recipient: " + id.toStdString());
     }
 
+    [[nodiscard]] QString text(const QString& id) const { return model->textFor(recipient(id)); }
+
     [[nodiscard]] QStringList shown() const {
         QStringList ids;
         for (const qsizetype index : model->visibleRecipients())

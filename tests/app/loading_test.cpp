@@ -170,11 +170,11 @@ TEST_F(List, EveryoneIsCheckedInTheOrderOfTheAddressBook) {
                                  u"Abe Old: Same number as another contact in this list."_s,
                                  u"Ann Lee: fine"_s, u"\u00c9mile: No first name on the contact."_s,
                                  u"Nan: "_s + newThread, u"zoe Young: fine"_s}));
-    EXPECT_EQ(recipient(u"nan"_s).text, u"Nan");
+    EXPECT_EQ(text(u"nan"_s), u"Nan");
     EXPECT_EQ(model->attentionCount(), 3);
     EXPECT_TRUE(recipient(u"zoe"_s).usable);
     EXPECT_FALSE(recipient(u"abe"_s).usable);
-    EXPECT_EQ(recipient(u"abe"_s).text, QString());
+    EXPECT_EQ(text(u"abe"_s), QString());
 }
 
 // Catches warnings that a change of number or of access to the history leaves behind.
@@ -289,13 +289,13 @@ TEST_F(List, TicksNotesAndTypingChangeOnlyWhatTheyTouch) {
     model->setCurrentTemplate(u"Hi {first_name}{custom_note}"_s);
     EXPECT_EQ(texts, 1);
     model->setNote(u"bob"_s, u" see you \n"_s);
-    EXPECT_EQ(recipient(u"bob"_s).text, u"Hi Bob see you"_s);
+    EXPECT_EQ(text(u"bob"_s), u"Hi Bob see you"_s);
     EXPECT_EQ(stored().notes[u"bob"_s], u" see you \n"_s);
     EXPECT_EQ(changed, std::vector<qsizetype>{1});
     model->setNote(u"bob"_s, QString());
     EXPECT_TRUE(stored().notes.isEmpty());
-    EXPECT_EQ(recipient(u"bob"_s).text, u"Hi Bob"_s);
-    EXPECT_EQ(recipient(u"ann"_s).text, u"Hi Ann"_s);
+    EXPECT_EQ(text(u"bob"_s), u"Hi Bob"_s);
+    EXPECT_EQ(text(u"ann"_s), u"Hi Ann"_s);
     EXPECT_EQ(replaced, 0);
     model->loadList();
     EXPECT_EQ(replaced, 1);

@@ -43,7 +43,7 @@ class BookInMemory final : public ContactSource {
     }
 };
 
-ContactRecord personWith(const std::vector<PhoneEntry>& phones) {
+ContactRecord personWith(const QList<PhoneEntry>& phones) {
     ContactRecord person;
     person.phoneNumbers = phones;
     return person;
@@ -101,7 +101,7 @@ TEST(BestPhoneOfAPerson, IsTheFirstUsableOneOfTheHighestRank) {
     const PhoneEntry shortMobile{PhoneLabel::mobile, u"41555"_s};
     const PhoneEntry custom{u"boat"_s, u"+44 7700 900 123"_s};
     const PhoneEntry bare{{}, u"1 415 555 0105"_s};
-    const std::vector<std::pair<std::vector<PhoneEntry>, QString>> cases{
+    const std::vector<std::pair<QList<PhoneEntry>, QString>> cases{
         {{atHome, main, iPhone, mobile, secondMobile}, u"+14155550101 "_s + PhoneLabel::mobile},
         {{atHome, main, iPhone}, u"+14155550102 "_s + PhoneLabel::iPhone},
         {{custom, atHome, main}, u"+14155550103 "_s + PhoneLabel::main},

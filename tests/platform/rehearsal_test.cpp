@@ -47,7 +47,7 @@ TEST_F(AddressBookTest, ReadsLabelsAndTakesAMissingKeyOrFileAsEmpty) {
     home.writeContacts(R"json({"contacts": [{"identifier": "c1", "phoneNumbers": [
         {"label": "_$!<Home>!$_", "value": "(212) 555-0101"}, {"value": "+44 7700 900001"}]}]})json");
     const auto phones = everybody().at(0).phoneNumbers;
-    ASSERT_EQ(phones.size(), 2U);
+    ASSERT_EQ(phones.size(), 2);
     EXPECT_EQ(phones[0].label, u"_$!<Home>!$_"_s);
     EXPECT_EQ(phones[1].label, std::nullopt);
 }

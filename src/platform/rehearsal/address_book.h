@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QByteArray>
 #include <QObject>
+#include <cstdint>
+#include <expected>
+#include <filesystem>
 #include <memory>
-#include <vector>
 
 #include "contacts/contact_source.h"
-#include "platform/rehearsal/json_file.h"
+#include "platform/rehearsal/contacts_file.h"
 
 namespace velmora {
 
@@ -27,26 +28,25 @@ class AddressBook final : public ContactSource {
     [[nodiscard]] QString localizedLabel(const QString& label) const override;
 
   private:
-    struct Group {
-        GroupRecord record;
-        QStringList members;
-    };
-    struct Book {
-        std::vector<ContactRecord> contacts;
-        std::vector<Group> groups;
-    };
+    /// By what a change of the file shows.
+    struct FileState {
+        std::filesystem::file_time_type changed;
+        std::uintmax_t size = 0;
 
-    [[nodiscard]] std::expected<Book, ContactsError> parse() const;
-    /// The book as the file has it now. What is read together is parsed once: until the event
-    /// loop's next turn, as long as the file's bytes stay the same.
-    [[nodiscard]] std::expected<std::shared_ptr<const Book>, ContactsError> read();
-    void keep(std::shared_ptr<const Book> book, QByteArray bytes);
-    void forget();
+        friend bool operator==(const FileState&, const FileState&) = default;
+    };
+    using SharedFile = std::shared_ptr<const ContactsFile>;
+
+    /// The file as it is now. What is read together is parsed once: until the event loop's next
+    /// turn, as long as the file stays as it was.
+    [[nodiscard]] std::expected<SharedFile, ContactsError> read() const;
+    /// The same, refused when access is denied.
+    [[nodiscard]] std::expected<SharedFile, ContactsError> granted() const;
 
     QString path_;
-    QByteArray bytes_;
-    std::shared_ptr<const Book> book_;
-    QObject turn_;  // what is to happen at the next turn goes with it
+    mutable SharedFile file_;
+    mutable FileState state_;
+    mutable QObject turn_;  // what is to happen at the next turn goes with it
 };
 
 }  // namespace velmora

@@ -43,36 +43,6 @@ std::optional<QString> JsonFile::optionalText(const QJsonObject& object, const Q
     return value.toString();
 }
 
-QString JsonFile::text(const QJsonObject& object, const QString& key) {
-    return optionalText(object, key).value_or(QString());
-}
-
-QStringList JsonFile::texts(const QJsonObject& object, const QString& key) {
-    const QJsonValue value = object.value(key);
-    QStringList found;
-    if (!value.isUndefined() && !value.isArray())
-        refuse(key, u"a list"_s);
-    for (const QJsonValue& each : value.toArray()) {
-        if (!each.isString())
-            refuse(key, u"a list of texts"_s);
-        found.append(each.toString());
-    }
-    return found;
-}
-
-QList<QJsonObject> JsonFile::objects(const QJsonObject& object, const QString& key) {
-    const QJsonValue value = object.value(key);
-    QList<QJsonObject> found;
-    if (!value.isUndefined() && !value.isArray())
-        refuse(key, u"a list"_s);
-    for (const QJsonValue& each : value.toArray()) {
-        if (!each.isObject())
-            refuse(key, u"a list of objects"_s);
-        found.append(each.toObject());
-    }
-    return found;
-}
-
 QJsonObject JsonFile::object(const QJsonObject& object, const QString& key) {
     const QJsonValue value = object.value(key);
     if (!value.isUndefined() && !value.isObject())

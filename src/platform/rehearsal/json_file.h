@@ -1,9 +1,7 @@
 #pragma once
 
-#include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
-#include <QStringList>
 #include <expected>
 #include <optional>
 
@@ -20,11 +18,8 @@ class JsonFile {
 
     [[nodiscard]] const QJsonObject& root() const { return root_; }
 
-    [[nodiscard]] QString text(const QJsonObject& object, const QString& key);
     [[nodiscard]] std::optional<QString> optionalText(const QJsonObject& object,
                                                       const QString& key);
-    [[nodiscard]] QStringList texts(const QJsonObject& object, const QString& key);
-    [[nodiscard]] QList<QJsonObject> objects(const QJsonObject& object, const QString& key);
     [[nodiscard]] QJsonObject object(const QJsonObject& object, const QString& key);
 
     /// Replaces `seconds` when the key is there: by its number, or by nothing for null.

@@ -30,7 +30,7 @@ RecipientEntry RecipientsModel::entryAt(int row) const {
     entry.checkable = isCheckable(*recipient);
     entry.heading = heading(row);
     if (model_.isPersonalised())
-        entry.preview = recipient->text;
+        entry.preview = model_.textFor(*recipient);
     entry.note = model_.config().notes.value(recipient->id);
     entry.showsNote =
         recipient->usable && (editingNoteID_ == recipient->id || !entry.note.isEmpty());

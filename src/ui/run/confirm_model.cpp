@@ -38,7 +38,7 @@ QString ConfirmModel::exampleCaption() const {
 
 QString ConfirmModel::exampleText() const {
     const auto example = model_.exampleRecipient();
-    return example ? example->text : QString();
+    return example ? model_.textFor(*example) : QString();
 }
 
 QString ConfirmModel::from() const {
