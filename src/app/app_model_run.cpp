@@ -69,8 +69,13 @@ void AppModel::confirmRun() {
     // The people and not their number: the other name may check someone for each that it unchecks.
     const QSet<QString> before = selection_;
     const qsizetype told = toldOf_.size();
-    if (batchName.value() != loadedBatch_)
+    if (batchName.value() != loadedBatch_) {
         loadList();
+    } else {
+        // Another program may have changed the log since it was loaded.
+        static_cast<void>(sendLog_.alreadySent(loadedBatch_));
+        tellOfLog();
+    }
     if (toldOf_.size() != told)
         return;
     if (selection_ == before)

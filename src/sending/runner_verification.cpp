@@ -71,7 +71,7 @@ QCoro::Task<Runner::Attempt> Runner::attempt(Item item, Service service, QString
 }
 
 std::expected<void, SendError> Runner::handOver(const Item& item, Service service) {
-    if (!tools_.sendLog.isWritten(batch))
+    if (!tools_.sendLog.isWritten(batch, item.phone))
         return std::unexpected(SendError{
             u"The log of the run can't be written, so nothing was sent. Check the disk."_s});
     return tools_.sender.send(item.phone, service, item.text);

@@ -143,6 +143,8 @@ std::expected<void, FileError> replaceFile(const QString& path, const QByteArray
     const QByteArray name = QFile::encodeName(path);
     struct stat status{};
     const bool exists = ::lstat(name.constData(), &status) == 0;
+    if (!exists && errno != ENOENT)
+        return failure("write", path, errno);
     if (exists && S_ISLNK(status.st_mode)) {
         const QString target = QFileInfo(path).canonicalFilePath();
         return target.isEmpty() ? failure("write", path, u"it is a link to nothing"_s)
@@ -159,11 +161,13 @@ std::expected<void, FileError> replaceFile(const QString& path, const QByteArray
     ::unlink(freshName.constData());
     if (auto made = makeFile(fresh, bytes); !made)
         return made;
-    if (::rename(freshName.constData(), name.constData()) == 0)
-        return {};
-    const int error = errno;
-    ::unlink(freshName.constData());
-    return failure("write", path, error);
+    if (::rename(freshName.constData(), name.constData()) != 0) {
+        const int error = errno;
+        ::unlink(freshName.constData());
+        return failure("write", path, error);
+    }
+    syncFolderOf(path);
+    return {};
 }
 
 std::expected<void, FileError> createFile(const QString& path, const QByteArray& bytes) {
@@ -213,6 +217,7 @@ std::expected<void, FileError> createPrivateFolder(const QString& path) {
     }
     if (!QDir().mkdir(path, ownerFolder))
         return failure("create", path, u"the folder can't be made"_s);
+    syncFolderOf(path);
     return {};
 }
 

@@ -25,9 +25,8 @@ struct FileError {
 [[nodiscard]] std::expected<QByteArray, FileError> readFile(const QString& path);
 
 /// Replaces the file by `bytes` in one step: a reader, and a computer that loses its power, has the
-/// old file or the whole new one. The new file is readable by its owner alone, and its bytes are on
-/// the disk before it takes the old one's place; its place is as safe as the file system's next
-/// write-through makes it. A missing folder is made. On failure the old file stands.
+/// old file or the whole new one, which is on the disk when this returns. The new file is readable
+/// by its owner alone. A missing folder is made. On failure the old file stands.
 [[nodiscard]] std::expected<void, FileError> replaceFile(const QString& path,
                                                          const QByteArray& bytes);
 

@@ -12,8 +12,7 @@ namespace {
 // The stem as it is where a file can have that name; else its beginning and what only this stem
 // gives.
 QString fittingStem(const QString& stem) {
-    // File systems take 255 bytes: ".csv" is added to them, and ".XXXXXX" while the file is
-    // replaced.
+    // File systems take 255 bytes: ".csv" is added to these, and ".new" while the file is replaced.
     constexpr qsizetype longest = 244;
     if (QFile::encodeName(stem).size() <= longest)
         return stem;

@@ -21,41 +21,59 @@ QByteArray lineOf(const LogEntry& entry) {
 
 }  // namespace
 
-bool SendLog::write(const QString& path, const std::vector<Change>& changes,
-                    Unreadable unreadable) {
+void SendLog::write(const QString& path, std::vector<Change>& changes, Unreadable unreadable) {
     const auto old = readFile(path);
     const bool missing = !old && old.error().kind == Kind::missing;
-    if (!old && !missing)
-        return unreadable == Unreadable::addBlindly && writeBlindly(path, changes);
+    if (!old && !missing) {
+        if (unreadable == Unreadable::addBlindly)
+            writeBlindly(path, changes);
+        return;
+    }
     const LogRepair repair = repairOf(old.value_or(QByteArray()));
     QByteArray kept = old.value_or(QByteArray()).chopped(repair.surplus);
-    QByteArray added;
-    bool replaced = false;
-    for (const Change& change : changes) {
+    QByteArray added = kept.isEmpty() ? logHeader() : repair.ending;
+    std::vector<Change> inPlace;
+    std::vector<Change> additions;
+    for (Change& change : changes) {
         const QByteArray line = lineOf(change.after);
-        const qsizetype place = change.before.isEmpty() ? -1 : lastPlaceOf(change.before, kept);
+        QByteArray former = change.before;
+        qsizetype place = former.isEmpty() ? -1 : lastPlaceOf(former, kept);
+        change.beforeStands = place >= 0;
+        // A write that failed may have left the line in the file, but not on the disk.
+        if (const bool again = std::exchange(change.triedBefore, true); again && place < 0) {
+            former = line;
+            place = lastPlaceOf(former, kept);
+        }
         if (place >= 0)
-            kept.replace(place, change.before.size(), line);
-        else if (!change.triedBefore || lastPlaceOf(line, kept) < 0)
+            kept.replace(place, former.size(), line);
+        else
             added += line;
-        replaced = replaced || place >= 0;
+        (place >= 0 ? inPlace : additions).push_back(std::move(change));
     }
-    if (!added.isEmpty())
-        added.prepend(kept.isEmpty() ? logHeader() : repair.ending);
-    if (replaced)
-        return replaceFile(path, kept + added).has_value();
-    if (added.isEmpty())
-        return true;
-    return (missing ? createFile(path, added) : appendToFile(path, added, repair.surplus))
-        .has_value();
+    if (additions.empty())
+        added.clear();
+    if (inPlace.empty() || !replaceFile(path, kept + added)) {
+        const bool isAdded =
+            !additions.empty() &&
+            (missing ? createFile(path, added) : appendToFile(path, added, repair.surplus))
+                .has_value();
+        changes = std::move(inPlace);
+        if (!isAdded)
+            std::ranges::move(additions, std::back_inserter(changes));
+    } else {
+        changes.clear();
+    }
 }
 
 // Whatever the file holds, the lines are added. The first begins a line of its own.
-bool SendLog::writeBlindly(const QString& path, const std::vector<Change>& changes) {
+void SendLog::writeBlindly(const QString& path, std::vector<Change>& changes) {
     QByteArray lines("\n");
-    for (const Change& change : changes)
+    for (Change& change : changes) {
         lines += lineOf(change.after);
-    return appendToFile(path, lines).has_value();
+        change.triedBefore = true;
+    }
+    if (appendToFile(path, lines))
+        changes.clear();
 }
 
 void SendLog::append(const LogEntry& entry) {
@@ -91,12 +109,10 @@ void SendLog::retry() {
         std::ranges::copy_if(left, std::back_inserter(changes), isOfFile);
         std::erase_if(left, isOfFile);
         // A second time for a file that has come or gone just then, or could not be read once.
-        bool written = write(path, changes, Unreadable::leave);
-        for (Change& each : changes)
-            each.triedBefore = true;
-        written = written || write(path, changes, Unreadable::addBlindly);
-        if (!written)
-            std::ranges::move(changes, std::back_inserter(waiting_));
+        write(path, changes, Unreadable::leave);
+        if (!changes.empty())
+            write(path, changes, Unreadable::addBlindly);
+        std::ranges::move(changes, std::back_inserter(waiting_));
     }
 }
 
@@ -170,8 +186,11 @@ bool SendLog::isUnderstood(const QString& batch) {
     return !puzzling_.contains(logFile(batch));
 }
 
-bool SendLog::isWritten(const QString& batch) {
-    return std::ranges::find(waiting_, logFile(batch), &Change::path) == waiting_.end();
+bool SendLog::isWritten(const QString& batch, const QString& phone) {
+    const QString path = logFile(batch);
+    return std::ranges::none_of(waiting_, [&](const Change& each) {
+        return each.path == path && each.after.phone == phone && !each.beforeStands;
+    });
 }
 
 QString SendLog::logFile(const QString& batch) {

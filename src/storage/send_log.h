@@ -32,7 +32,8 @@ class SendLog {
 
     /// Puts `after` into the place of `before`, a line of the same batch that was written as
     /// `append` does, in one step: at no instant has the file neither. Where `before` is not there,
-    /// `after` is added.
+    /// `after` is added. Where the file can be added to but not replaced, `before` stands
+    /// meanwhile.
     void replace(const LogEntry& before, const LogEntry& after);
 
     /// Replaces the run's file by the header and `entries`, if it is still what `load` read last
@@ -53,8 +54,9 @@ class SendLog {
     /// none, or it could be read and holds the header and entries alone, each with a phone.
     [[nodiscard]] bool isUnderstood(const QString& batch);
 
-    /// Whether all lines of the run stand in its file.
-    [[nodiscard]] bool isWritten(const QString& batch);
+    /// Whether the person's lines of the run are on the disk, be it those whose place others wait
+    /// to take.
+    [[nodiscard]] bool isWritten(const QString& batch, const QString& phone);
 
     /// Tries again to write what could not be written.
     void retry();
@@ -70,6 +72,7 @@ class SendLog {
         QByteArray before;
         LogEntry after;
         bool triedBefore = false;
+        bool beforeStands = false;  // in the file, when it was read last
     };
     /// What was found in a file.
     struct Reading {
@@ -80,9 +83,9 @@ class SendLog {
 
     enum class Unreadable { leave, addBlindly };
 
-    [[nodiscard]] static bool write(const QString& path, const std::vector<Change>& changes,
-                                    Unreadable unreadable);
-    [[nodiscard]] static bool writeBlindly(const QString& path, const std::vector<Change>& changes);
+    // Both leave the changes that could not be written.
+    static void write(const QString& path, std::vector<Change>& changes, Unreadable unreadable);
+    static void writeBlindly(const QString& path, std::vector<Change>& changes);
     void add(Change change);
     void addWaiting(std::vector<LogEntry>& entries, const QString& path) const;
     [[nodiscard]] QByteArray read(const QString& path);

@@ -121,6 +121,13 @@ TEST_F(Run, ALogThatDoesNotTellWhoWasTextedIsToldOnce) {
     model->batchName = first;
     model->confirmRun();
     EXPECT_FALSE(model->alert.value());
+    EXPECT_TRUE(world.clock.runUntilIdle());
+    model->batchName = u"Later"_s;
+    model->loadList();
+    writeTestFile(SendLog(folder, world.clock).logFile(u"Later"_s), "time;batch\n");
+    model->confirmRun();
+    EXPECT_FALSE(model->runner().isActive()) << "changed since the list was loaded";
+    EXPECT_TRUE(model->alert.value());
 }
 
 // Catches a run that starts where it must not, or a refusal that names the wrong reason.

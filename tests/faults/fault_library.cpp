@@ -4,7 +4,7 @@
 
 #include <dlfcn.h>
 #include <fcntl.h>
-#include <sys/types.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
@@ -59,6 +59,14 @@ int opened(const char* name, const char* path, int flags, mode_t mode) {
     return handle;
 }
 
+// A call that looks at the file of this path, or changes what the folder says of it.
+template <class... Arguments>
+int named(const char* name, const char* path, Arguments... arguments) {
+    if (lies(path) && fails(EIO))
+        return -1;
+    return real<int (*)(const char*, Arguments...)>(name)(path, arguments...);
+}
+
 struct Report {
     ~Report() {
         if (FILE* file = std::fopen(setting("VELMORA_FAULT_COUNT"), "w")) {
@@ -110,9 +118,39 @@ int ftruncate(int handle, off_t size) noexcept {
     return real<int (*)(int, off_t)>("ftruncate")(handle, size);
 }
 int rename(const char* from, const char* to) noexcept {
-    if (lies(from) && fails(EIO))
+    return named("rename", from, to);
+}
+int unlink(const char* path) noexcept {
+    return named("unlink", path);
+}
+int mkdir(const char* path, mode_t mode) noexcept {
+    return named("mkdir", path, mode);
+}
+int chmod(const char* path, mode_t mode) noexcept {
+    return named("chmod", path, mode);
+}
+int stat(const char* path, struct stat* status) noexcept {
+    return named("stat", path, status);
+}
+int lstat(const char* path, struct stat* status) noexcept {
+    return named("lstat", path, status);
+}
+int fstat(int handle, struct stat* status) noexcept {
+    if (watched(handle) && fails(EIO))
         return -1;
-    return real<int (*)(const char*, const char*)>("rename")(from, to);
+    return real<int (*)(int, struct stat*)>("fstat")(handle, status);
+}
+int faccessat(int folder, const char* path, int mode, int flags) noexcept {
+    if (lies(path) && fails(EIO))
+        return -1;
+    return real<int (*)(int, const char*, int, int)>("faccessat")(folder, path, mode, flags);
+}
+// What the toolkit asks about a path.
+int statx(int folder, const char* path, int flags, unsigned mask, struct statx* status) noexcept {
+    if (lies(path) && fails(EIO))
+        return -1;
+    return real<int (*)(int, const char*, int, unsigned, struct statx*)>("statx")(
+        folder, path, flags, mask, status);
 }
 int close(int handle) {
     const bool failed = watched(handle) && fails(EIO);

@@ -170,6 +170,27 @@ TEST_F(VerificationTest, TheLineOfATextStandsBeforeItLeaves) {
     EXPECT_EQ(file(), displayed());
 }
 
+// Catches a text that leaves though its line is not on the disk, and a run that ends because
+// outcomes wait to be written, as on a disk that is nearly full: whom the file has is safe.
+TEST_F(VerificationTest, ATextLeavesWhenItsPersonStandsInTheFile) {
+    messages({{phone(1), R"({"iMessage": {"error": 22}})"}});
+    const QString path = sendLog.logFile(batch);
+    for (const auto& [obstacle, handedOver] :
+         {std::pair(path, 0), std::pair(path + u".new"_s, 4)}) {
+        ASSERT_TRUE(QDir().mkpath(obstacle));
+        runAll(3);
+        EXPECT_EQ(scripts.count, handedOver) << qPrintable(obstacle);
+        EXPECT_EQ(file().count("sent_unverified"), handedOver == 0 ? 0 : 3);
+        if (runner->isActive())
+            runner->stop();
+        settle();
+        ASSERT_TRUE(QDir().rmdir(obstacle));
+        sendLog.retry();
+        EXPECT_EQ(file(), displayed());
+    }
+    EXPECT_EQ(file().count(",sent,"), 3);
+}
+
 // Catches a stored line that is never settled, settled by an old text, or rewritten for nothing.
 TEST_F(VerificationTest, ALoadedLogIsSettledByTheHistory) {
     int person = -1;

@@ -19,8 +19,8 @@ class NativeLook {
   public:
     virtual ~NativeLook() = default;
 
-    /// The symbol `name` for a place of `pixels` (device pixels), centred on a transparent image and
-    /// drawn in `tint` alone. The image is exactly as high as its place; where symbols are of
+    /// The symbol `name` for a place of `pixels` (device pixels), centred on a transparent image
+    /// and drawn in `tint` alone. The image is exactly as high as its place; where symbols are of
     /// different widths at one height, it may be wider. A null image when the size is empty, and
     /// with a warning when the name is unknown. From any thread.
     [[nodiscard]] virtual QImage symbol(const QString& name, QSize pixels, const QColor& tint,
