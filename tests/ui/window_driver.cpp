@@ -54,20 +54,23 @@ QString speech(QAccessibleInterface* element) {
     QAccessibleValueInterface* number = element->valueInterface();
     const QString value =
         number != nullptr ? number->currentValue().toString() : element->text(QAccessible::Value);
-    if (!value.isEmpty() && element->role() != QAccessible::Window)
+    // What the toolkit itself says of a window and of a progress changes with its versions.
+    const bool isWindow = element->role() == QAccessible::Window;
+    if (!value.isEmpty() && !isWindow && element->role() != QAccessible::ProgressBar)
         words.append("value "_L1 + value);
     if (state.checkable)
         words.append(QLatin1String(state.checked ? "checked" : "unchecked"));
     if (state.selected)
         words.append("selected"_L1);
-    const QString description = element->text(QAccessible::Description);
+    const QString description = isWindow ? QString() : element->text(QAccessible::Description);
     return words.join(", "_L1) + (description.isEmpty() ? QString() : " | "_L1 + description);
 }
 
 void listen(QAccessibleInterface* element, QStringList& spoken) {
     if (element->state().invisible)
         return;
-    spoken.append(speech(element));
+    if (!element->text(QAccessible::Name).isEmpty())
+        spoken.append(speech(element));
     for (int child = 0; child < element->childCount(); ++child)
         listen(element->child(child), spoken);
 }

@@ -5,6 +5,7 @@
 #include "app/app_home.h"
 #include "core/phone.h"
 #include "ui/compose/compose_model.h"
+#include "ui/language.h"
 #include "ui/run/activity_model.h"
 #include "ui/run/run_display.h"
 #include "ui/run/run_model.h"
@@ -47,10 +48,8 @@ TEST(RunDisplay, AnEntryShowsItsStatusDetailsAndTime) {
     entry.status = u"sent_unverified"_s;
     entry.service = u"SMS"_s;
     entry.detail = u"Check the thread."_s;
-    const QLocale before;
-    QLocale::setDefault(QLocale(u"en_US"_s));
+    const Language american(u"en_US"_s);
     const ActivityEntry shown = activityEntry(entry);
-    QLocale::setDefault(before);
     EXPECT_EQ(shown.tone, Tone::orange);
     EXPECT_EQ(shown.details, u"sent unverified \u00B7 SMS \u00B7 Check the thread."_s);
     EXPECT_EQ(shown.clockTime.simplified(), u"11:00 AM"_s);

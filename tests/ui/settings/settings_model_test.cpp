@@ -5,6 +5,7 @@
 #include "app/app_home.h"
 #include "ui/controls/clock_fields.h"
 #include "ui/controls/number_text.h"
+#include "ui/language.h"
 
 namespace velmora {
 
@@ -101,16 +102,22 @@ TEST_F(Settings, SendsOneTestAtATime) {
 
 // Catches a number that is shown with grouping or too few digits, and text that passes for one.
 TEST(NumberField, ReadsAndWritesDecimalNumbers) {
-    EXPECT_EQ(NumberText::shown(1234.125), u"1234.125"_s);
-    EXPECT_EQ(NumberText::value(u" 45.5 "_s), 45.5);
-    for (const QString& text : {u""_s, u"4 5"_s, u"soon"_s, u"inf"_s, u"nan"_s})
-        EXPECT_FALSE(NumberText::readable(text)) << text.toStdString();
+    for (const auto& [language, shown] :
+         {std::pair(u"en_GB"_s, u"1234.125"_s), std::pair(u"el_GR"_s, u"1234,125"_s)}) {
+        const Language spoken(language);
+        EXPECT_EQ(NumberText::shown(1234.125), shown);
+        EXPECT_EQ(NumberText::value(u' ' + shown + u' '), 1234.125);
+        EXPECT_EQ(NumberText::value(u"45.5"_s), 45.5);
+        for (const QString& text : {u""_s, u"4 5"_s, u"soon"_s, u"inf"_s, u"nan"_s})
+            EXPECT_FALSE(NumberText::readable(text)) << text.toStdString();
+    }
 }
 
 // Catches typed digits that don't become one number or leave the range, steps that don't wrap, a
 // midnight or noon that counts as the other where the language counts to twelve, and parts that
 // stand otherwise than the language writes them.
 TEST(ClockFields, TakeDigitsAndSteps) {
+    std::optional<Language> language(u"en_GB"_s);
     ClockFields clock;
     QObject::connect(&clock, &ClockFields::picked, [&](int hour, int minute) {
         clock.setHour(hour);
@@ -131,8 +138,7 @@ TEST(ClockFields, TakeDigitsAndSteps) {
     clock.stepHour(-10);
     EXPECT_EQ(shows(), u"23:00"_s);
 
-    const QLocale before;
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    language.emplace(u"en_US"_s);
     ClockFields twelve;
     QObject::connect(&twelve, &ClockFields::picked, [&](int hour) { twelve.setHour(hour); });
     EXPECT_EQ(twelve.hourText() + twelve.halfText(), u"12AM"_s);
@@ -141,11 +147,10 @@ TEST(ClockFields, TakeDigitsAndSteps) {
     twelve.typeHour(u"1"_s);
     twelve.typeHour(u"1"_s);
     EXPECT_EQ(twelve.hour(), 23);
-    QLocale::setDefault(QLocale(u"ko_KR"_s));
+    language.emplace(u"ko_KR"_s);
     EXPECT_TRUE(ClockFields().halfFirst());
-    QLocale::setDefault(QLocale(u"fr_CA"_s));
+    language.emplace(u"fr_CA"_s);
     EXPECT_EQ(ClockFields().separator(), u" h "_s);
-    QLocale::setDefault(before);
 }
 
 }  // namespace
