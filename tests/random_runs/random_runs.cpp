@@ -121,6 +121,11 @@ class RandomRun : SendingWorld {
         };
         must(std::ranges::none_of(handed_, isSame), now.phone + u" is texted twice"_s);
         must(!sentBefore_.contains(now.phone), now.phone + u" was sent before"_s);
+        const std::vector<LogEntry> lines = SendLog(folder, clock()).load(batch);
+        const auto own = std::ranges::find(lines.begin() + linesBefore_, lines.end(), now.phone,
+                                           &LogEntry::phone);
+        must(own != lines.end() && own->status == statusUnverified,
+             now.phone + u" is texted before the log says so"_s);
         const bool inHand = !handed_.empty() && handed_.back().phone == now.phone;
         must(!stoppedAfter_ || inHand, u"a text leaves after the stop"_s);
         if (now.service == Service::sms) {
@@ -132,6 +137,8 @@ class RandomRun : SendingWorld {
             const double most = std::max(config.delayMin, config.delayMax) + 1 +
                                 (2 + 2 * count_) * (config.verifyWait + 2);
             must(last_ < 0 || paused_ || now.uptime - last_ <= most, u"a wait is too long"_s);
+            must(std::ssize(runner->log()) == linesBefore_ + people_,
+                 u"a line is shown before its outcome"_s);
             last_ = now.uptime;
             paused_ = false;
             ++people_;
@@ -148,31 +155,30 @@ class RandomRun : SendingWorld {
         runner->batch = batch;
         runner->reloadLog();
         sentBefore_ = SendLog(folder, clock()).alreadySent(batch);
-        const size_t linesBefore = runner->log().size();
+        linesBefore_ = std::ssize(runner->log());
         start(count_);
         if (often(25))
             clock().after(seconds(200), [this] { stop(); });
         must(clock().runUntilIdle(1e5), u"the run does not end"_s);
-        judgeEnd(linesBefore);
+        judgeEnd();
         clock().advance(86400);
     }
 
-    void judgeEnd(size_t linesBefore) {
+    void judgeEnd() {
         must(runner->state == State::done && activities.held == 0, u"something is held"_s);
         must(people_ <= std::max<qint64>(config.maxPerRun, 1), u"too many are texted"_s);
         must(runner->log().empty() || file() == displayed(),
              u"the file is not the log that is shown"_s);
         const std::vector<LogEntry> lines = SendLog(folder, clock()).load(batch);
-        must(lines.size() == linesBefore + static_cast<size_t>(people_),
-             u"not everybody has a line"_s);
+        must(std::ssize(lines) == linesBefore_ + people_, u"not everybody has a line"_s);
         qint64 failed = 0;
-        for (size_t n = linesBefore; n < lines.size(); ++n) {
+        for (auto n = static_cast<size_t>(linesBefore_); n < lines.size(); ++n) {
             failed += lines[n].status == statusFailed ? 1 : 0;
             must(lines[n].status != statusSent || wasSent(lines[n].phone),
                  lines[n].phone + u" was not sent"_s);
         }
         const QString counts = QString::number(people_) + u" of "_s;
-        must(runner->message.value().contains(counts) || linesBefore + people_ == 0,
+        must(runner->message.value().contains(counts) || linesBefore_ + people_ == 0,
              u"the summary says: "_s + runner->message.value());
         const QString tail = failed > 0 ? u" %1 failed."_s.arg(failed) : u"."_s;
         must(runner->message.value().endsWith(tail), u"the summary hides failures"_s);
@@ -195,6 +201,7 @@ class RandomRun : SendingWorld {
     bool paused_ = false;
     double last_ = -1;
     qint64 people_ = 0;
+    qint64 linesBefore_ = 0;
 };
 
 int runMany(unsigned wanted, unsigned first) {

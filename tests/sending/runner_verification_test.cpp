@@ -145,31 +145,6 @@ TEST_F(VerificationTest, ARunWithoutTheHistoryEndsUnverified) {
     expectDone(u"Finished. 0 of 0 processed."_s);
 }
 
-// Catches a text that leaves before its line is on the disk: whatever ends the program then, the
-// person would be texted again. And an outcome that is ever without a line, or beside it.
-TEST_F(VerificationTest, TheLineOfATextStandsBeforeItLeaves) {
-    messages({{phone(1), R"({"iMessage": {"error": 22}})"},
-              {phone(2), R"({"scriptError": "No."})"},
-              {phone(3), R"({"iMessage": {"recordAfter": 21, "error": 22}})"}});
-    QStringList seen;
-    scripts.before = [&](const QString&) {
-        SendLog onDisk(folder, clock());
-        const std::vector<LogEntry> lines = onDisk.load(batch);
-        EXPECT_EQ(file().count('\n'), lines.size() + 1);
-        seen += lines.back().phone.last(1) + u' ' + lines.back().service + u' ' +
-                lines.back().status + (lines.back().detail == noRecord ? u""_s : u"?"_s) + u' ' +
-                QString::number(runner->log().size());
-    };
-    start(5);
-    expectDone(u"Finished. 5 of 5 processed. 1 failed."_s);
-    EXPECT_EQ(seen,
-              (QStringList{u"0 iMessage sent_unverified 0"_s, u"1 iMessage sent_unverified 1"_s,
-                           u"1 SMS (fallback) sent_unverified 1"_s,
-                           u"2 iMessage sent_unverified 2"_s, u"3 iMessage sent_unverified 3"_s,
-                           u"3 iMessage sent_unverified 4"_s, u"4 iMessage sent_unverified 4"_s}));
-    EXPECT_EQ(file(), displayed());
-}
-
 // Catches a text that leaves though its line is not on the disk, and a run that ends because
 // outcomes wait to be written, as on a disk that is nearly full: whom the file has is safe.
 TEST_F(VerificationTest, ATextLeavesWhenItsPersonStandsInTheFile) {
