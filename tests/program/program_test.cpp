@@ -113,6 +113,7 @@ TEST(Program, OneHomeIsOpenOnce) {
     first.tell(SIGCONT);
     unheard.tell(SIGTERM);
     EXPECT_EQ(unheard.ended(), 1);
+    EXPECT_FALSE(unheard.readAll().contains(".qml")) << "its notice does not open";
     first.tell(SIGKILL);
     EXPECT_EQ(first.ended(), std::nullopt);
 

@@ -22,6 +22,13 @@ struct AlertContent {
     QString action = {};
     QString dismissal;
 
+    /// An alert of Velmora's that only tells something.
+    [[nodiscard]] static AlertContent saying(const QString& sentence) {
+        return {.title = QStringLiteral("Velmora"),
+                .message = sentence,
+                .dismissal = QStringLiteral("OK")};
+    }
+
     friend bool operator==(const AlertContent&, const AlertContent&) = default;
 };
 

@@ -6,7 +6,7 @@ import Velmora
 Window {
     id: notice
 
-    required property string message
+    required property alertContent content
 
     width: alert.implicitWidth
     height: alert.implicitHeight
@@ -15,7 +15,7 @@ Window {
     minimumHeight: height
     maximumHeight: height
     flags: Qt.Dialog
-    title: "Velmora"
+    title: content.title
     color: Theme.sheetBackground
     visible: true
     Component.onCompleted: {
@@ -26,8 +26,7 @@ Window {
     AlertBox {
         id: alert
         anchors.fill: parent
-        title: "Velmora"
-        message: notice.message
+        content: notice.content
         onDismissed: notice.close()
     }
 }

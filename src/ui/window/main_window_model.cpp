@@ -108,7 +108,7 @@ void MainWindowModel::followAlert() {
     if (asksToQuit_)
         alert_ = question();
     else if (const auto& sentence = model_.alert.value())
-        alert_ = {.title = u"Velmora"_s, .message = *sentence, .dismissal = u"OK"_s};
+        alert_ = AlertContent::saying(*sentence);
     Q_EMIT changed();
 }
 

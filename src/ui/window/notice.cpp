@@ -4,6 +4,7 @@
 #include <QQmlApplicationEngine>
 #include <utility>
 
+#include "ui/controls/alert_content.h"
 #include "ui/look/drawn_look.h"
 #include "ui/window/views.h"
 
@@ -16,7 +17,8 @@ void showNotice(const QString& sentence, std::unique_ptr<NativeLook> look) {
         look = std::make_unique<DrawnLook>();
     QQmlApplicationEngine engine;
     prepareViews(engine, std::move(look));
-    engine.setInitialProperties({{u"message"_s, sentence}});
+    engine.setInitialProperties(
+        {{u"content"_s, QVariant::fromValue(AlertContent::saying(sentence))}});
     engine.load(QUrl(u"qrc:/qt/qml/Velmora/NoticeWindow.qml"_s));
     if (!engine.rootObjects().isEmpty())
         QGuiApplication::exec();
