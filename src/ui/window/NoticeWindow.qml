@@ -26,6 +26,7 @@ Window {
     AlertBox {
         id: alert
         anchors.fill: parent
+        radius: 0
         content: notice.content
         onDismissed: notice.close()
     }
