@@ -18,7 +18,11 @@ NSArray<id<CNKeyDescriptor>>* contactKeys() {
     ];
 }
 
-ContactsError errorOf(NSError* error) { return {textOf(error.localizedDescription)}; }
+// A store that fails may leave out why.
+ContactsError errorOf(NSError* error) {
+    return {error != nil ? textOf(error.localizedDescription)
+                         : QStringLiteral("The address book could not be read.")};
+}
 
 ContactRecord recordOf(CNContact* contact) {
     ContactRecord record{.identifier = textOf(contact.identifier),

@@ -3,20 +3,7 @@
 
 #import <Foundation/Foundation.h>
 
-typedef double CGFloat, NSFontWeight;
-struct NSSize {
-    CGFloat width, height;
-};
-struct NSPoint {
-    CGFloat x, y;
-};
-struct NSRect {
-    NSPoint origin;
-    NSSize size;
-};
-NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat width, CGFloat height);
-extern const NSRect NSZeroRect;
-
+typedef CGFloat NSFontWeight;
 typedef struct CGColorSpace *CGColorSpaceRef;
 typedef struct CGContext *CGContextRef;
 enum : uint32_t { kCGImageAlphaPremultipliedFirst = 2, kCGBitmapByteOrder32Host = 2 << 12 };
