@@ -18,6 +18,8 @@ using namespace Qt::StringLiterals;
 struct PhoneEntry {
     std::optional<QString> label;  ///< the raw label as stored: a PhoneLabel or a custom text
     QString value;                 ///< as the user typed it
+
+    friend bool operator==(const PhoneEntry&, const PhoneEntry&) = default;
 };
 
 /// What is read of one person: all linked cards merged, these properties and nothing else.
@@ -29,12 +31,16 @@ struct ContactRecord {
     QString organizationName;
     QList<PhoneEntry> phoneNumbers;  ///< in the card's order
     QStringList emailAddresses;      ///< in the card's order
+
+    friend bool operator==(const ContactRecord&, const ContactRecord&) = default;
 };
 
 /// One address-book group.
 struct GroupRecord {
     QString identifier;
     QString name;
+
+    friend bool operator==(const GroupRecord&, const GroupRecord&) = default;
 };
 
 /// The platform's raw phone labels that outrank others, as this program spells them.

@@ -1,4 +1,3 @@
-#include "app/product_pages.h"
 #include "app_home.h"
 
 namespace velmora {
@@ -97,14 +96,6 @@ TEST_F(Startup, LosingTheHistoryShowsHelpUntilItIsBack) {
     EXPECT_FALSE(model->needsFDAHelp());
     EXPECT_EQ(model->dbError.value(), QString());
     EXPECT_GT(model->numbersCheckedAt.value(), checkedAt);
-}
-
-// Catches two pages that are taken for each other, and an address made some other way.
-TEST(ProductPages, EachHasItsOwnAddress) {
-    const QString host = u"velmora.example"_s;
-    EXPECT_EQ(productPageAddress(host, ProductPage::terms), u"https://velmora.example/terms");
-    EXPECT_EQ(productPageAddress(host, ProductPage::safeguards),
-              u"https://velmora.example/safeguards");
 }
 
 // Catches needless writes, and a file that holds less than the model when an observer stores too.

@@ -82,6 +82,7 @@ void wrote(const QString& what, NSString* value) { fakeMac->calls << what + u' '
 @end
 
 @implementation NSWorkspace
+@dynamic accessibilityDisplayShouldReduceMotion, notificationCenter;
 + (NSWorkspace*)sharedWorkspace {
     static NSWorkspace* const shared = [[self alloc] init];
     return shared;
@@ -100,12 +101,6 @@ void wrote(const QString& what, NSString* value) { fakeMac->calls << what + u' '
     EXPECT_NE(url, nil) << "the workspace raises at an application without an address";
     EXPECT_NE(configuration, nil);
     wrote(u"start"_s, [url absoluteString]);
-}
-- (BOOL)accessibilityDisplayShouldReduceMotion {
-    return NO;
-}
-- (NSNotificationCenter*)notificationCenter {
-    return nil;
 }
 @end
 

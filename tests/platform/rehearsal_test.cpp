@@ -29,28 +29,8 @@ class RehearsalTest : public testing::Test {
 
 class AddressBookTest : public RehearsalTest {
   protected:
-    std::vector<ContactRecord> everybody() {
-        std::vector<ContactRecord> people;
-        const auto read = book.enumerateContacts(
-            [&people](ContactRecord contact) { people.push_back(std::move(contact)); });
-        EXPECT_TRUE(read.has_value());
-        return people;
-    }
-
     AddressBook book{home.path()};
 };
-
-// Catches a label made up for a number that has none, and a missing key or file taken for an error.
-// The other properties are what the list of people shows.
-TEST_F(AddressBookTest, ReadsLabelsAndTakesAMissingKeyOrFileAsEmpty) {
-    EXPECT_TRUE(everybody().empty()) << "without a file";
-    home.writeContacts(R"json({"contacts": [{"identifier": "c1", "phoneNumbers": [
-        {"label": "_$!<Home>!$_", "value": "(212) 555-0101"}, {"value": "+44 7700 900001"}]}]})json");
-    const auto phones = everybody().at(0).phoneNumbers;
-    ASSERT_EQ(phones.size(), 2);
-    EXPECT_EQ(phones[0].label, u"_$!<Home>!$_"_s);
-    EXPECT_EQ(phones[1].label, std::nullopt);
-}
 
 // Catches a read that goes on with part of a broken book, or that is kept from the user as denied.
 TEST_F(AddressBookTest, ABrokenFileFailsEveryReadWithOneSentence) {
@@ -101,8 +81,9 @@ class MessagesApplicationTest : public RehearsalTest {
     qint64 since = 0;
 };
 
-// Catches a row that is there at once or with its flags set, a date other than the script's, and
-// defaults that are lost without a settings file.
+// Catches a row that is there at once or with its flags set, a date other than the script's,
+// defaults that are lost without a settings file, settings kept from an earlier send, and flags
+// that fall before their row and are lost.
 TEST_F(MessagesApplicationTest, TheRowComesFirstAndItsFlagsLater) {
     send(Service::sms);
     QStringList flags;
@@ -112,14 +93,6 @@ TEST_F(MessagesApplicationTest, TheRowComesFirstAndItsFlagsLater) {
     EXPECT_EQ(record()->service, u"SMS"_s);
     ++since;
     EXPECT_FALSE(record().has_value());
-}
-
-// Catches settings kept from an earlier send, an error whose text leaves, flags that fall before
-// their row and are lost, and a never that comes.
-TEST_F(MessagesApplicationTest, SettingsAreReadAtEverySend) {
-    home.writeMessages(R"({"error": 22})");
-    send();
-    EXPECT_EQ(flagsAfter(60), u""_s);
     home.writeMessages(R"({"recordAfter": 5, "sentAfter": 1, "deliveredAfter": null})");
     send();
     EXPECT_EQ(flagsAfter(4.9), u"-"_s);
