@@ -2,9 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QDateTime>
 #include <QDir>
-#include <QFileInfo>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -25,118 +23,179 @@ struct Outcome {
     QString output, errors;
 };
 
-Outcome run(const QString& program, const QStringList& arguments) {
+Outcome run(const QString& program, const QStringList& arguments, const QString& tools = {}) {
     QProcess process;
+    QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
+    surroundings.insert(u"PATH"_s, tools + u':' + surroundings.value(u"PATH"_s));
+    process.setProcessEnvironment(surroundings);
     process.start(program, arguments);
     EXPECT_TRUE(process.waitForFinished()) << qPrintable(process.errorString());
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError()).trimmed()};
 }
 
-Outcome package(const QStringList& arguments) {
-    return run(sourceRoot + u"/packaging/macos/package"_s, arguments);
-}
+/// A built bundle, and the tools of a Mac that only pretend: of a program or a library, what
+/// describes it is its content.
+class Package : public testing::Test {
+  protected:
+    Package() {
+        for (const auto& [name, does] : std::map<QString, QByteArray>{
+                 {u"otool"_s, "cat \"$4\""},
+                 {u"ditto"_s, "cp -R \"$1\" \"$2\""},
+                 {u"macdeployqt"_s, "cat \"$(dirname \"$0\")/deployed\""},
+                 {u"codesign"_s, "test ! -e \"$(dirname \"$0\")/refused\""},
+                 {u"xcrun"_s, ""},
+                 {u"hdiutil"_s, ""},
+                 {u"spctl"_s, ""}}) {
+            writeTestFile(path(name), "#!/bin/sh\n" + does + '\n');
+            QFile::setPermissions(path(name), QFile::ReadOwner | QFile::ExeOwner);
+        }
+        writeTestFile(path(u"deployed"_s), "WARNING: there is nothing to do\n");
+        writeTestFile(app + u"/Contents/Info.plist"_s,
+                      "<key>LSMinimumSystemVersion</key>\n<string>14.0</string>\n");
+        build(program + needs("14.0"), load("@loader_path/libA.dylib") + needs("15.2"));
+    }
 
-// Catches a step that moved: nothing may change after it is sealed, and the ticket comes last.
-TEST(Package, ADryRunSignsInsideOutThenNotarisesThenStaples) {
-    const QFileInfo staging(sourceRoot + u"/build/package"_s);
-    const QDateTime before = staging.lastModified();
-    const Outcome dry =
-        package({u"--identity"_s, u"Developer ID Application: Ann Lee (TEAM)"_s, u"--profile"_s,
-                 u"velmora"_s, u"--app"_s, u"Other.app"_s, u"--dry-run"_s});
+    static QByteArray command(const QByteArray& name, const QByteArray& value) {
+        return "Load command 1\n      cmd " + name + "\n  cmdsize 56\n" + value + '\n';
+    }
+    static QByteArray load(const QByteArray& library) {
+        return command("LC_LOAD_DYLIB", "     name " + library + " (offset 24)");
+    }
+    static QByteArray rpath(const QByteArray& folder) {
+        return command("LC_RPATH", "     path " + folder + " (offset 12)");
+    }
+    static QByteArray needs(const QByteArray& system) {
+        return command("LC_BUILD_VERSION", "    minos " + system);
+    }
+
+    [[nodiscard]] QString path(const QString& name) const { return folder.filePath(name); }
+    void build(const QByteArray& executable, const QByteArray& library) const {
+        writeTestFile(app + u"/Contents/MacOS/Velmora"_s, executable);
+        writeTestFile(app + u"/Contents/Frameworks/libA.dylib"_s, library);
+    }
+    [[nodiscard]] Outcome package(const QStringList& more) const {
+        return run(sourceRoot + u"/packaging/macos/package"_s, more, folder.path());
+    }
+    [[nodiscard]] QString complaint() const {
+        return run(sourceRoot + u"/packaging/macos/self-contained"_s, {app}, folder.path()).errors;
+    }
+
+    const QTemporaryDir folder;
+    const QString app = path(u"Other.app"_s);
+    const QByteArray program = load("/usr/lib/libSystem.B.dylib") + load("@rpath/libA.dylib") +
+                               rpath("@executable_path/../Frameworks");
+    const QStringList named = {
+        u"--identity"_s, u"Ann Lee (TEAM)"_s, u"--profile"_s, u"velmora"_s,
+        u"--app"_s,      u"Other.app"_s,      u"--output"_s,  path(u"Velmora.dmg"_s)};
+};
+
+// Catches a step that moved: nothing may change after it is sealed, and the ticket comes last. A
+// dry run that does something or shows another order; a step that fails without an end.
+TEST_F(Package, SignsInsideOutThenNotarisesThenStaples) {
+    QStringList arguments = named;
+    arguments[5] = app;
+    const Outcome dry = package(arguments + QStringList(u"--dry-run"_s));
     ASSERT_EQ(dry.code, 0) << qPrintable(dry.errors);
-    const QStringList order = {u"\nditto "_s + QDir::current().filePath(u"Other.app"_s),
-                               u"\nmacdeployqt build/package/Velmora.app -qmldir=src/ui"_s,
-                               u"\npackaging/macos/self-contained build/package/Velmora.app"_s,
-                               u"\nfind build/package/Velmora.app/Contents -depth"_s,
+    EXPECT_FALSE(QFile::exists(path(u"package"_s))) << "a dry run did something";
+    const Outcome done = package(arguments);
+    ASSERT_EQ(done.code, 0) << qPrintable(done.errors);
+    EXPECT_EQ(done.output, dry.output);
+    const QStringList order = {u"\nditto "_s + app,
+                               u"\ndeploy "_s,
+                               u"least-system "_s,
+                               u"self-contained "_s,
+                               u"/Contents -depth"_s,
                                u"-exec codesign --force"_s,
                                u"--entitlements packaging/macos/Velmora.entitlements"_s,
                                u"\ncodesign --verify --deep --strict"_s,
                                u"\nhdiutil create"_s,
                                u"\ncodesign --force --timestamp --sign"_s,
-                               u"build/Velmora.dmg"_s,
-                               u"notarytool submit build/Velmora.dmg --keychain-profile velmora"_s,
-                               u"stapler staple build/Velmora.dmg"_s,
+                               u"notarytool submit "_s,
+                               u"stapler staple "_s,
                                u"spctl --assess"_s};
     qsizetype place = 0;
     for (const QString& step : order) {
         const qsizetype found = dry.output.indexOf(step, place);
-        ASSERT_GE(found, place) << qPrintable(step) << " is missing or out of order in\n"
-                                << qPrintable(dry.output);
+        ASSERT_GE(found, place) << qPrintable(step + u" is missing or late in\n"_s + dry.output);
         place = found + step.size();
     }
     EXPECT_EQ(dry.output.count(u"--entitlements"_s), 1) << "only the application gets them";
-    EXPECT_EQ(QFileInfo(staging.filePath()).lastModified(), before)
-        << "a dry run changed something";
+    QFile list(path(u"package/Velmora.app/Contents/Info.plist"_s));
+    EXPECT_TRUE(list.open(QIODevice::ReadOnly) && list.readAll().contains("<string>15.2<"));
+
+    writeTestFile(path(u"refused"_s), "");
+    const Outcome unsigned_ = package(arguments);
+    EXPECT_NE(unsigned_.code, 0);
+    EXPECT_FALSE(unsigned_.output.contains(u"--verify"_s)) << "went on unsigned";
+    writeTestFile(path(u"deployed"_s), "ERROR: no file at \"/opt/homebrew/libA.dylib\"\n");
+    const Outcome incomplete = package(arguments);
+    EXPECT_NE(incomplete.code, 0);
+    EXPECT_TRUE(incomplete.errors.contains(u"macdeployqt could not bring in everything"_s));
+    EXPECT_FALSE(incomplete.output.contains(u"codesign"_s)) << "went on without a library";
 }
 
-TEST(Package, WhatIsMissingIsNamedInOneSentence) {
+TEST_F(Package, WhatIsMissingIsNamedInOneSentence) {
     EXPECT_EQ(package({}).errors, u"Name the signing certificate with --identity."_s);
-    EXPECT_EQ(package({u"--identity"_s, u"X"_s}).errors,
+    EXPECT_EQ(package(named.first(2)).errors,
               u"Name notarytool's keychain profile with --profile."_s);
     EXPECT_EQ(package({u"--profile"_s}).errors, u"The argument --profile needs a value."_s);
-    const QStringList named = {u"--identity"_s, u"X"_s, u"--profile"_s, u"Y"_s};
-    const QTemporaryDir folder(QDir::tempPath() + u"/XXXXXX.dmg"_s);
-    EXPECT_EQ(
-        package(named + QStringList{u"--output"_s, folder.path()}).errors,
-        folder.path() + u" cannot be the disk image; name a file ending in .dmg with --output."_s);
-    const Outcome noTools = package(named);
+    ASSERT_TRUE(QDir().mkpath(path(u"Velmora.dmg"_s)));
+    EXPECT_EQ(package(named).errors, path(u"Velmora.dmg"_s) +
+                                         u" cannot be the disk image; name a file ending in .dmg "
+                                         "with --output."_s);
+    EXPECT_TRUE(QFile::remove(path(u"spctl"_s)));
+    const Outcome noTools = package(named.first(4));
     EXPECT_EQ(noTools.code, 1);
-    EXPECT_TRUE(noTools.errors.startsWith(u"The tool "_s)) << qPrintable(noTools.errors);
+    EXPECT_TRUE(noTools.errors.startsWith(u"The tool spctl "_s)) << qPrintable(noTools.errors);
 }
 
-// Catches a check that passes a bundle that starts only where Homebrew is, or one it cannot read.
-TEST(Package, ABundleThatLoadsFromHomebrewIsRefused) {
-    const QTemporaryDir folder;
-    writeTestFile(folder.filePath(u"otool"_s), "#!/bin/sh\nshift\nexec cat \"$@\"\n");
-    QFile::setPermissions(folder.filePath(u"otool"_s), QFile::ReadOwner | QFile::ExeOwner);
-    for (const auto& [loads, code] :
-         std::map<QByteArray, int>{{"\t/usr/lib/x.dylib\n\t@rpath/y.dylib", 0},
-                                   {"\t/usr/lib/x.dylib\n\t/opt/homebrew/opt/y.dylib", 1},
-                                   {"", 1}}) {
-        writeTestFile(folder.filePath(u"Contents/MacOS/Velmora"_s), "Velmora:\n" + loads);
-        EXPECT_EQ(run(u"env"_s, {u"PATH="_s + folder.path() + u':' + qEnvironmentVariable("PATH"),
-                                 sourceRoot + u"/packaging/macos/self-contained"_s, folder.path()})
-                      .code,
-                  code)
-            << loads.constData();
+// Catches a check that passes a bundle that other Macs cannot start, or one it cannot read.
+TEST_F(Package, ABundleThatDoesNotStartEverywhereIsRefused) {
+    writeTestFile(path(u"libB.dylib"_s), "");
+    const std::vector<std::tuple<QByteArray, QByteArray, QString>> cases = {
+        {program + needs("14.0"), load("@rpath/libA.dylib") + needs("9.9"), {}},
+        {program, load("/opt/homebrew/libB.dylib"),
+         u"Frameworks/libA.dylib loads /opt/homebrew/libB.dylib, which is not in the bundle."_s},
+        {load("@rpath/libA.dylib"), rpath("@loader_path"),
+         u"MacOS/Velmora loads @rpath/libA.dylib, which is not in the bundle."_s},
+        {program, load("@loader_path/../../../libB.dylib"),
+         u"Frameworks/libA.dylib loads @loader_path/../../../libB.dylib, which is not in the bundle."_s},
+        {program, load("@executable_path/libB.dylib"),
+         u"Frameworks/libA.dylib loads @executable_path/libB.dylib, which is not in the bundle."_s},
+        {program + rpath("/opt/homebrew/lib"),
+         {},
+         u"MacOS/Velmora looks for libraries in /opt/homebrew/lib."_s},
+        {program, needs("26.0"),
+         u"Frameworks/libA.dylib needs macOS 26.0, and the bundle says 14.0."_s},
+        {{}, {}, u"What "_s + app + u"/Contents/MacOS/Velmora loads could not be listed."_s}};
+    for (const auto& [executable, library, sentence] : cases) {
+        build(executable, library);
+        EXPECT_EQ(complaint(), sentence);
     }
-}
-
-// The keys and values of a property list's dictionary, with the values that are texts or true.
-QMap<QString, QString> propertyList(const QString& path) {
-    QFile file(sourceRoot + path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
-    QXmlStreamReader xml(&file);
-    QMap<QString, QString> found;
-    QString key;
-    while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        const QString element = xml.name().toString();
-        if (element == u"key")
-            found.insert(key = xml.readElementText(), QString());
-        else if (element == u"string")
-            found.insert(key, xml.readElementText());
-        else if (element == u"true")
-            found.insert(key, element);
-    }
-    EXPECT_FALSE(xml.hasError()) << qPrintable(path + u": "_s + xml.errorString());
-    return found;
 }
 
 // Catches a bundle that the system would kill at its first question to Contacts or to Messages.
 TEST(Bundle, AsksForWhatItUsesAndSaysWhy) {
-    const auto info = propertyList(u"/packaging/macos/Info.plist.in"_s);
-    EXPECT_TRUE(info.value(u"NSContactsUsageDescription"_s).endsWith(u'.'));
-    EXPECT_TRUE(info.value(u"NSAppleEventsUsageDescription"_s).contains(u"Messages"));
-    EXPECT_EQ(info.value(u"CFBundleShortVersionString"_s),
-              u"${MACOSX_BUNDLE_SHORT_VERSION_STRING}");
-    EXPECT_EQ(info.value(u"LSMultipleInstancesProhibited"_s), u"true");
-    const auto rights = propertyList(u"/packaging/macos/Velmora.entitlements"_s);
-    EXPECT_EQ(rights.keys(),
-              (QStringList{u"com.apple.security.automation.apple-events"_s,
-                           u"com.apple.security.personal-information.addressbook"_s}));
+    for (const auto& [name, held] : std::vector<std::pair<QString, QByteArrayList>>{
+             {u"Info.plist.in"_s,
+              {"<key>NSContactsUsageDescription</key>\n    <string>Velmora ",
+               "<key>NSAppleEventsUsageDescription</key>\n    <string>Velmora ",
+               "<key>LSMultipleInstancesProhibited</key>\n    <true/>",
+               "<string>${MACOSX_BUNDLE_SHORT_VERSION_STRING}</string>"}},
+             {u"Velmora.entitlements"_s,
+              {"<key>com.apple.security.automation.apple-events</key>\n    <true/>",
+               "<key>com.apple.security.personal-information.addressbook</key>\n    <true/>"}}}) {
+        QFile file(sourceRoot + u"/packaging/macos/"_s + name);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray list = file.readAll();
+        QXmlStreamReader xml(list);
+        while (!xml.atEnd())
+            xml.readNext();
+        EXPECT_FALSE(xml.hasError()) << qPrintable(xml.errorString());
+        for (const QByteArray& each : held)
+            EXPECT_TRUE(list.contains(each)) << each.constData();
+    }
 }
 
 TEST(Icon, EverySizeOfTheSetIsDrawn) {
