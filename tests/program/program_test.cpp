@@ -113,7 +113,8 @@ TEST(Program, OneHomeIsOpenOnce) {
     first.tell(SIGCONT);
     unheard.tell(SIGTERM);
     EXPECT_EQ(unheard.ended(), 1);
-    EXPECT_FALSE(unheard.readAll().contains(".qml")) << "its notice does not open";
+    const QByteArray complaints = unheard.readAll();
+    EXPECT_FALSE(complaints.contains(".qml")) << complaints.constData();
     first.tell(SIGKILL);
     EXPECT_EQ(first.ended(), std::nullopt);
 

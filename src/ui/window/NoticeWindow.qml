@@ -10,10 +10,10 @@ Window {
 
     width: alert.implicitWidth
     height: alert.implicitHeight
-    minimumWidth: width
-    maximumWidth: width
-    minimumHeight: height
-    maximumHeight: height
+    minimumWidth: alert.implicitWidth
+    maximumWidth: alert.implicitWidth
+    minimumHeight: alert.implicitHeight
+    maximumHeight: alert.implicitHeight
     flags: Qt.Dialog
     title: content.title
     color: Theme.sheetBackground
