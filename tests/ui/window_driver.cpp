@@ -66,13 +66,12 @@ QString speech(QAccessibleInterface* element) {
     return words.join(", "_L1) + (description.isEmpty() ? QString() : " | "_L1 + description);
 }
 
-void listen(QAccessibleInterface* element, QStringList& spoken) {
-    if (element->state().invisible)
+void gather(QAccessibleInterface* element, QList<QAccessibleInterface*>& all) {
+    if (element == nullptr || element->state().invisible)
         return;
-    if (!element->text(QAccessible::Name).isEmpty())
-        spoken.append(speech(element));
+    all.append(element);
     for (int child = 0; child < element->childCount(); ++child)
-        listen(element->child(child), spoken);
+        gather(element->child(child), all);
 }
 
 }  // namespace
@@ -124,9 +123,18 @@ QStringList WindowDriver::spoken(const QString& name, QWindow* in) {
     layOut(there);
     auto* root = QAccessible::queryAccessibleInterface(there);
     QAccessibleInterface* from = name.isEmpty() ? root : findBelow(root, name, QAccessible::NoRole);
+    QList<QAccessibleInterface*> elements;
+    gather(from, elements);
     QStringList all;
-    if (from != nullptr)
-        listen(from, all);
+    for (QAccessibleInterface* each : elements)
+        if (!each->text(QAccessible::Name).isEmpty())
+            all.append(speech(each));
+    return all;
+}
+
+QList<QAccessibleInterface*> WindowDriver::elements(QWindow* in) {
+    QList<QAccessibleInterface*> all;
+    gather(QAccessible::queryAccessibleInterface(in == nullptr ? &window() : in), all);
     return all;
 }
 

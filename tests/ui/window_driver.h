@@ -35,6 +35,8 @@ class WindowDriver {
     /// All that a screen reader finds from the thing of that name on, in its order: role, name and
     /// state of each. An empty name means the whole window.
     [[nodiscard]] QStringList spoken(const QString& name = {}, QWindow* in = nullptr);
+    /// Every element that a screen reader finds in the window, in its order.
+    [[nodiscard]] QList<QAccessibleInterface*> elements(QWindow* in = nullptr);
     /// Clicks on what is called that, where `role` can tell it from another of its name; false when
     /// there is no such thing.
     bool click(const QString& name, QAccessible::Role role = QAccessible::NoRole,

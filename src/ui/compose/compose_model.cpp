@@ -75,10 +75,13 @@ QString ComposeModel::senderTitle() const {
     return number.isEmpty() ? u"Choose number"_s : displayPhone(number);
 }
 
-QStringList ComposeModel::senderEntries() const {
-    QStringList entries;
+QVariantList ComposeModel::senderEntries() const {
+    QVariantList entries;
     for (const NumberInfo& each : model_.numbers.value())
         entries.append(displayPhone(each.number));
+    if (entries.isEmpty())
+        entries.append(QVariantMap{{u"text"_s, u"No number found on this Mac"_s},
+                                   {u"enabled"_s, false}});
     return entries;
 }
 

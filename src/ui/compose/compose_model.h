@@ -21,7 +21,7 @@ class ComposeModel final : public QObject {
     Q_PROPERTY(QString hint READ hint NOTIFY messageChanged)
     Q_PROPERTY(QVariantList insertEntries READ insertEntries CONSTANT)
     Q_PROPERTY(QString senderTitle READ senderTitle NOTIFY senderChanged)
-    Q_PROPERTY(QStringList senderEntries READ senderEntries NOTIFY senderChanged)
+    Q_PROPERTY(QVariantList senderEntries READ senderEntries NOTIFY senderChanged)
     Q_PROPERTY(int senderIndex READ senderIndex NOTIFY senderChanged)
     Q_PROPERTY(bool locked READ locked NOTIFY lockedChanged)
 
@@ -43,8 +43,8 @@ class ComposeModel final : public QObject {
     [[nodiscard]] static QVariantList insertEntries();
     /// The chosen number as a person reads it, or the request to choose one.
     [[nodiscard]] QString senderTitle() const;
-    /// All numbers to send from; `chooseSender` takes the chosen one's place.
-    [[nodiscard]] QStringList senderEntries() const;
+    /// All numbers to send from, or that there is none; `chooseSender` takes the chosen one's place.
+    [[nodiscard]] QVariantList senderEntries() const;
     /// The place of the chosen number; -1 when it is not among them.
     [[nodiscard]] int senderIndex() const;
 

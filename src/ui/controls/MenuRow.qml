@@ -29,6 +29,7 @@ Item {
     implicitHeight: separator ? 11 : 24
     Accessible.role: separator ? Accessible.Separator : Accessible.MenuItem
     Accessible.name: title
+    Accessible.description: separator || selectable ? "" : Theme.unavailable
     Accessible.checkable: marksColumn
     Accessible.checked: marked
     Accessible.focused: highlighted

@@ -1,12 +1,16 @@
 import QtQuick
+import QtQuick.Window
 import Velmora
 
-/// A field for a decimal number. Return or leaving the field takes what was typed; what is no
-/// number, and Escape, bring the value back.
+/// A field for a decimal number. Every number that is typed counts at once; what is none goes when
+/// the keyboard does, and Escape brings back the number that stood there before.
 TextEntry {
     id: entry
 
     property real value: 0
+    property real before: 0
+
+    readonly property bool onScreen: Window.visibility !== Window.Hidden
 
     signal valueEdited(real value)
 
@@ -19,17 +23,30 @@ TextEntry {
     inputMethodHints: Qt.ImhFormattedNumbersOnly
     Component.onCompleted: show()
     onValueChanged: if (!activeFocus) show()
-    onEditingFinished: {
-        if (text !== NumberText.shown(value) && NumberText.readable(text))
-            valueEdited(NumberText.value(text));
+    onOnScreenChanged: {
+        before = value;
         show();
     }
-    onActiveFocusChanged: if (activeFocus && focusReason !== Qt.PopupFocusReason) selectAll()
-    onAccepted: selectAll()
+    onEdited: text => {
+        if (NumberText.readable(text))
+            valueEdited(NumberText.value(text));
+    }
+    onEditingFinished: show()
+    onActiveFocusChanged: {
+        if (!activeFocus || focusReason === Qt.PopupFocusReason)
+            return;
+        before = value;
+        selectAll();
+    }
+    onAccepted: {
+        before = value;
+        selectAll();
+    }
     Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape
-                                                         && text !== NumberText.shown(value)
+                                                         && text !== NumberText.shown(before)
     Keys.onEscapePressed: event => {
-        event.accepted = text !== NumberText.shown(value);
+        event.accepted = text !== NumberText.shown(before);
+        valueEdited(before);
         show();
         selectAll();
     }

@@ -37,6 +37,7 @@ T.AbstractButton {
     opacity: enabled || prominent ? 1 : Theme.disabledOpacity
     Accessible.name: text
     Accessible.description: enabled ? help : Theme.unavailable
+    Accessible.onPressAction: if (enabled) clicked()
     Keys.onReturnPressed: event => PlainReturn.take(event, clicked)
     Keys.onEnterPressed: event => PlainReturn.take(event, clicked)
 

@@ -83,6 +83,7 @@ Item {
                 Accessible.checkable: true
                 Accessible.checked: choice.currentIndex === index
                 Accessible.onPressAction: if (enabled) choice.chosen(segment.index)
+                Accessible.onToggleAction: if (enabled) choice.chosen(segment.index)
 
                 TapHandler { onTapped: choice.chosen(segment.index) }
             }

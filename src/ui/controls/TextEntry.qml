@@ -3,6 +3,7 @@ import QtQuick.Templates as T
 import Velmora
 
 /// One line of text to type in. What is typed is told by `edited`; the bound text may follow.
+/// Without the keyboard it shows the beginning of its text.
 T.TextField {
     id: field
 
@@ -24,12 +25,16 @@ T.TextField {
     selectionColor: Theme.selection
     selectedTextColor: Theme.primary
     selectByMouse: true
+    validator: OneLine
     font.family: Theme.fontFamily
     font.pixelSize: small ? Theme.caption : Theme.body
     opacity: enabled || plain ? 1 : Theme.disabledOpacity
     Accessible.name: accessibleName
     Accessible.description: enabled ? "" : Theme.unavailable
     onTextEdited: field.edited(field.text)
+    // A menu only borrows the keyboard.
+    onActiveFocusChanged: if (!activeFocus && focusReason !== Qt.PopupFocusReason) cursorPosition = 0
+    onTextChanged: if (!activeFocus) cursorPosition = 0
     Keys.onMenuPressed: menu.openAtCaret(cursorRectangle)
 
     TextMenu {

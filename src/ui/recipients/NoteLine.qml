@@ -19,11 +19,17 @@ FocusScope {
     /// The field gives the keyboard back.
     signal finished
 
+    /// Puts the keyboard on the offer; false where there is none.
+    function reach(): bool {
+        if (showsOffer)
+            offer.item.forceActiveFocus(Qt.TabFocusReason);
+        return showsOffer;
+    }
     function enter(): bool {
         if (showsOffer)
             entered();
         if (showsField && fieldEnabled)
-            forceActiveFocus(Qt.TabFocusReason);
+            field.item.forceActiveFocus(Qt.TabFocusReason);
         return activeFocus;
     }
 
@@ -31,6 +37,7 @@ FocusScope {
 
     // Most rows need neither, and making a field is what costs.
     MadeWhenWanted {
+        id: offer
         wanted: line.showsOffer
 
         PushButton {
@@ -39,11 +46,15 @@ FocusScope {
             symbol: "square.and.pencil"
             text: "Add note"
             tint: line.linkColor
-            activeFocusOnTab: false
+            focusPolicy: Qt.NoFocus
             onClicked: line.enter()
+            Keys.onEscapePressed: line.finished()
+            Keys.onLeftPressed: line.finished()
+            Keys.onBacktabPressed: line.finished()
         }
     }
     MadeWhenWanted {
+        id: field
         wanted: line.showsField
 
         TextEntry {

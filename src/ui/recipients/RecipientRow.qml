@@ -23,6 +23,9 @@ FocusScope {
     function enterNote(): bool {
         return noteLine.enter();
     }
+    function reachNote(): bool {
+        return noteLine.reach();
+    }
     function leave() {
         noteLine.focus = false;
         passage.focus = false;

@@ -3,8 +3,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Velmora
 
-/// The rows of the people. One stop for the keyboard: arrows move, Space checks, Return enters the
-/// row's note or makes one, Tab enters it where there is one.
+/// The rows of the people. One stop for the keyboard: Up and Down move, Space checks, Return enters
+/// the row's note or makes one, Tab enters it where there is one, Right goes to the offer of one.
 ListView {
     id: list
 
@@ -65,6 +65,10 @@ ListView {
     }
     Keys.onReturnPressed: enterNote(true)
     Keys.onEnterPressed: enterNote(true)
+    Keys.onRightPressed: event => {
+        const row = currentItem as RecipientRow;
+        event.accepted = row !== null && row.reachNote();
+    }
     Keys.onTabPressed: event => event.accepted = enterNote(false)
     Keys.onPressed: event => {
         const to = {

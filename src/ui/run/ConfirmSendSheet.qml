@@ -68,7 +68,6 @@ SheetFrame {
         TextEntry {
             Layout.preferredWidth: 240
             accessibleName: "Run name"
-            maximumLength: sheet.model.longestRunName
             text: sheet.model.runName
             onEdited: text => sheet.model.setRunName(text)
         }

@@ -1,6 +1,5 @@
 #include "ui/run/confirm_model.h"
 
-#include <algorithm>
 
 #include "core/phone.h"
 #include "ui/run/run_display.h"
@@ -51,12 +50,6 @@ QString ConfirmModel::pace() const {
 
 QString ConfirmModel::runName() const {
     return model_.batchName;
-}
-
-int ConfirmModel::longestRunName() const {
-    // Four bytes each at most, of the 255 that a file's name has. A list's own long name stays.
-    constexpr qsizetype longest = 60;
-    return static_cast<int>(std::max(longest, model_.batchName.value().size()));
 }
 
 void ConfirmModel::setRunName(const QString& name) {

@@ -19,7 +19,6 @@ class ConfirmModel final : public QObject {
     Q_PROPERTY(QString exampleText READ exampleText NOTIFY changed)
     Q_PROPERTY(QString from READ from NOTIFY changed)
     Q_PROPERTY(QString pace READ pace NOTIFY changed)
-    Q_PROPERTY(int longestRunName READ longestRunName NOTIFY runNameChanged)
     Q_PROPERTY(QString runName READ runName NOTIFY runNameChanged)
 
   public:
@@ -38,8 +37,6 @@ class ConfirmModel final : public QObject {
     [[nodiscard]] QString pace() const;
     /// The name that the run's log goes by.
     [[nodiscard]] QString runName() const;
-    /// How many characters can be typed as the name, which has to fit into a file's.
-    [[nodiscard]] int longestRunName() const;
 
     /// Takes the name as typed; `startSending` looks who was already sent to under it.
     Q_INVOKABLE void setRunName(const QString& name);

@@ -87,7 +87,7 @@ double SettingsModel::delayMin() const {
 }
 
 void SettingsModel::setDelayMin(double seconds) {
-    edit([&](AppConfig& config) { config.delayMin = seconds; });
+    edit([&](AppConfig& config) { config.delayMin = std::max(0.0, seconds); });
 }
 
 double SettingsModel::delayMax() const {
@@ -95,7 +95,7 @@ double SettingsModel::delayMax() const {
 }
 
 void SettingsModel::setDelayMax(double seconds) {
-    edit([&](AppConfig& config) { config.delayMax = seconds; });
+    edit([&](AppConfig& config) { config.delayMax = std::max(0.0, seconds); });
 }
 
 int SettingsModel::startHour() const {

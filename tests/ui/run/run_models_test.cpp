@@ -91,7 +91,8 @@ TEST_F(RunModels, InsertsGoToTheEndAndTheNumberIsChosenFromAll) {
     EXPECT_EQ(model->config().senderNumber, myOtherLine);
     EXPECT_EQ(compose.senderTitle(), displayPhone(myOtherLine));
     EXPECT_EQ(announced.size(), 1);
-    EXPECT_EQ(compose.senderEntries().value(compose.senderIndex()), displayPhone(myOtherLine));
+    EXPECT_EQ(compose.senderEntries().value(compose.senderIndex()).toString(),
+              displayPhone(myOtherLine));
 }
 
 // Catches a send section that offers what the run's state forbids or hides how it stands.

@@ -1,4 +1,5 @@
 #include <QDir>
+#include <QGuiApplication>
 
 #include "app/app_home.h"
 #include "storage/files.h"
@@ -12,9 +13,11 @@ class Accessibility : public AppHome {
   protected:
     /// Friends on the screen, with Ann checked.
     WindowDriver& show() {
+        user.reset();
         withFriends().setSenderNumber(myLine);
         model->setCurrentTemplate(u"Hi {first_name}{custom_note}"_s);
-        model->setSelected(u"ann"_s, true);
+        model->setSelection({u"ann"_s});
+        model->testPhone = u"212 555 0102"_s;
         user = std::make_unique<WindowDriver>(*model, world.clock);
         user->settle();
         return *user;
@@ -30,6 +33,46 @@ class Accessibility : public AppHome {
         const QString eleven = QLocale().toString(QTime(11, 0), QLocale::ShortFormat);
         EXPECT_EQ(lines.join(u'\n').toStdString() + '\n',
                   expected.replace("{11:00}", eleven.toUtf8()).toStdString());
+    }
+
+    /// All that a person can see or hear of the program.
+    [[nodiscard]] QStringList everything() const {
+        QStringList all{user->focused(),
+                        QString::fromUtf8(encodeConfig(model->config()).value_or("(none)"))};
+        for (QWindow* each : QGuiApplication::allWindows())
+            if (each->isVisible())
+                all += user->spoken({}, each);
+        return all;
+    }
+
+    /// Does each action of each control in turn, every time in a new window that `prepared` has
+    /// brought where it should be, and answers those that changed nothing.
+    QStringList idleActions(const std::function<QWindow*()>& prepared) {
+        const QString off = u"Unavailable"_s;
+        QStringList idle;
+        for (qsizetype done = 0, count = 1; done < count; ++done) {
+            QWindow* window = prepared();
+            QList<std::pair<QAccessibleInterface*, QString>> actions;
+            for (QAccessibleInterface* each : user->elements(window)) {
+                auto* doer = each->actionInterface();
+                if (doer == nullptr || each->text(QAccessible::Description).contains(off))
+                    continue;
+                for (const QString& action : doer->actionNames())
+                    if (action != QAccessibleActionInterface::setFocusAction())
+                        actions.append({each, action});
+            }
+            count = actions.size();
+            const auto& [element, action] = actions[done];
+            const QString name = element->text(QAccessible::Name) + u' ' + action;
+            const bool isSo =
+                element->state().focused || element->state().selected || element->state().checked;
+            const QStringList before = everything();
+            element->actionInterface()->doAction(action);
+            user->settle();
+            if (everything() == before && !isSo)
+                idle.append(name);
+        }
+        return idle;
     }
 
     std::unique_ptr<WindowDriver> user;
@@ -58,6 +101,18 @@ TEST_F(Accessibility, WhatIsOnTheScreenIsSpoken) {
     ASSERT_TRUE(window.until([&] { return window.shows(u"OK"_s); }));
     expectSpoken(window.spoken(), u"alert"_s);
     EXPECT_EQ(window.complaints().join(u'\n').toStdString(), "");
+}
+
+// Catches a control that says it can be pressed, and is not.
+TEST_F(Accessibility, EveryActionOfEveryControlDoesItsWork) {
+    EXPECT_EQ(idleActions([&]() -> QWindow* { return &show().window(); }), QStringList());
+    EXPECT_EQ(idleActions([&]() -> QWindow* {
+                  show();
+                  model->openSettings();
+                  user->settle();
+                  return WindowDriver::windowTitled(u"Settings"_s);
+              }),
+              QStringList());
 }
 
 }  // namespace

@@ -1,0 +1,85 @@
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include "ui/window/window_home.h"
+
+namespace velmora {
+
+namespace {
+
+// Catches a search that the list or the bulk buttons do not follow, that Escape keeps, or that the
+// list loses by being chosen again; a chosen list that cannot be let go by its row.
+TEST_F(WindowTest, SearchLimitsWhatIsSelected) {
+    withFriends();
+    WindowDriver& user = show();
+    user.click(u"Search people"_s);
+    user.type(u"bo"_s);
+    EXPECT_TRUE(user.until([&] { return !user.shows(u"Ann Lee"_s); }));
+    EXPECT_TRUE(user.click(u"Friends, 3"_s) && user.click(u"Select Shown"_s));
+    EXPECT_EQ(model->selection(), QSet<QString>{u"bob"_s});
+    user.click(u"Search people"_s);
+    user.type(u"x"_s);
+    EXPECT_TRUE(user.until([&] { return user.shows(u"No matches"_s); }));
+    user.key(Qt::Key_Escape);
+    EXPECT_TRUE(user.until([&] { return user.shows(u"Ann Lee"_s) && user.shows(u"Clear All"_s); }));
+    user.click(u"Selected"_s);
+    EXPECT_TRUE(user.until([&] { return !user.shows(u"Ann Lee"_s); }));
+    EXPECT_TRUE(user.click(u"Clear Shown"_s));
+    EXPECT_TRUE(user.until([&] { return user.shows(u"Nobody selected yet"_s); }));
+    const QPoint row = user.place(u"Friends, 3"_s);
+    QTest::mouseClick(&user.window(), Qt::LeftButton, Qt::ShiftModifier, row);
+    EXPECT_TRUE(model->config().selectedGroupID);
+    QTest::mouseClick(&user.window(), Qt::LeftButton, command, row);
+    EXPECT_FALSE(model->config().selectedGroupID) << "the selection can be cleared";
+}
+
+// Catches a list that opens where the one before it stood, its first people out of sight.
+TEST_F(WindowTest, AnotherListOpensAtItsBeginning) {
+    std::vector<QByteArray> people;
+    for (int number = 100; number < 140; ++number) {
+        const QString digits = QString::number(number);
+        people.push_back(person(digits, u"P"_s + digits, {}, u"212 555 0"_s + digits));
+    }
+    friends(people);
+    withFriends();
+    WindowDriver& user = show();
+    user.click(u"P100"_s);
+    user.key(Qt::Key_PageDown);
+    EXPECT_LT(user.area(u"P100"_s).top(), user.area(u"People"_s, QAccessible::List).top());
+    EXPECT_TRUE(user.click(u"All Contacts, 40"_s));
+    user.settle();
+    EXPECT_GE(user.area(u"P100"_s).top(), user.area(u"People"_s, QAccessible::List).top());
+}
+
+// Catches a note that loses the keyboard or its row while it is typed, and keys that act on
+// another person than the one just clicked; a passage's menu that leaves before it is used.
+TEST_F(WindowTest, NotesAndKeysStayWithTheirPerson) {
+    withFriends().setCurrentTemplate(u"Hi {first_name}{custom_note}"_s);
+    WindowDriver& user = show();
+    user.click(u"Hi Joanne"_s);
+    user.key(Qt::Key_Space);
+    EXPECT_EQ(model->selection(), QSet<QString>{u"joanne"_s});
+    user.key(Qt::Key_Return);
+    user.type(u"See you there"_s);
+    EXPECT_EQ(user.focused(), u"Personal note");
+    EXPECT_EQ(model->config().notes.value(u"joanne"_s), u"See you there");
+    EXPECT_TRUE(user.until([&] { return user.shows(u"Hi Joanne See you there"_s); }));
+    user.key(Qt::Key_Escape);
+    user.key(Qt::Key_Space);
+    EXPECT_TRUE(model->selection().isEmpty());
+    for (const QString& command : {u"Select All"_s, u"Copy"_s}) {
+        const QPoint preview = user.place(u"Hi Bob"_s);
+        QTest::mouseMove(&user.window(), preview);
+        QTest::mouseClick(&user.window(), Qt::RightButton, {}, preview);
+        EXPECT_TRUE(user.click(command, QAccessible::MenuItem));
+    }
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"Hi Bob");
+    user.click(u"Hi Joanne See you there"_s);
+    user.key(Qt::Key_Up);
+    user.key(Qt::Key_Space);
+    EXPECT_EQ(model->selection(), QSet<QString>{u"bob"_s});
+}
+
+}  // namespace
+
+}  // namespace velmora

@@ -1,0 +1,162 @@
+#include <gmock/gmock.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include "ui/window/window_home.h"
+
+namespace velmora {
+
+namespace {
+
+/// The program under the hands of someone who uses the keyboard alone, or types and moves on.
+class Hands : public WindowTest {
+  protected:
+    /// Where the Tab key or its opposite stops, from the reading order's first stop on.
+    QStringList walk(Qt::KeyboardModifiers modifiers = {}) {
+        QStringList stops;
+        const QObject* start = nullptr;
+        while (stops.size() < 60) {
+            driver->key(modifiers == Qt::ShiftModifier ? Qt::Key_Backtab : Qt::Key_Tab, modifiers);
+            if (QGuiApplication::focusObject() == start)
+                break;
+            if (start == nullptr)
+                start = QGuiApplication::focusObject();
+            stops.append(driver->focused().section(u',', 0, 0));
+        }
+        const QStringList read = names();
+        const auto first = std::ranges::min_element(
+            stops, {}, [&read](const QString& stop) { return read.indexOf(stop); });
+        std::rotate(stops.begin(), first, stops.end());
+        return stops;
+    }
+
+    /// The names of all that is on the screen, as it is read.
+    QStringList names() {
+        QStringList all;
+        for (QAccessibleInterface* each : driver->elements())
+            all.append(each->text(QAccessible::Name).section(u',', 0, 0));
+        return all;
+    }
+
+    void expectWalk(const QString& expected) {
+        const QStringList stops = walk();
+        EXPECT_EQ(stops.join(u'|').toStdString(), expected.toStdString());
+        QStringList back = walk(Qt::ShiftModifier);
+        std::reverse(back.begin() + 1, back.end());
+        EXPECT_EQ(back.join(u'|').toStdString(), expected.toStdString()) << "the way back";
+        const QStringList read = names();
+        qsizetype place = -1;
+        for (const QString& stop : stops)
+            EXPECT_NE(place = read.indexOf(stop, place + 1), -1) << "not as it is read";
+    }
+};
+
+// Catches a control that Tab does not reach, one that holds it, a stop that is nothing, and an
+// order that is not that of reading, in any state of the window.
+TEST_F(Hands, TabWalksThroughTheWindowAsItIsRead) {
+    withFriends().setSenderNumber(myLine);
+    show();
+    ASSERT_TRUE(driver->until([&] { return driver->shows(u"Ann Lee"_s); }));
+    model->selectGroup({});
+    expectWalk(u"Friends|Sidebar width"_s);
+    model->selectGroup(u"friends"_s);
+    const QString bar = u"Friends|Sidebar width|Show|Search people|"_s;
+    const QString composer = u"Message|Insert|(212) 555-9999"_s;
+    expectWalk(bar + u"Select All|Clear All|Ann Lee|"_s + composer);
+    model->setSelection({u"bob"_s, u"joanne"_s});
+    model->searchText = u"o"_s;
+    expectWalk(bar + u"Clear search|Select Shown|Clear Shown|Bob Stone|"_s + composer +
+               u"|Send to 2\u2026"_s);
+    model->startRun();
+    ASSERT_TRUE(driver->until([&] { return driver->shows(u"Activity"_s); }));
+    expectWalk(u"Sidebar width|Bob Stone|Stop|Bob Stone"_s);
+    home.writeMessages(messagesOnLine(myOtherLine));
+    ASSERT_TRUE(driver->until([&] { return driver->shows(u"Resume"_s); }));
+    expectWalk(u"Sidebar width|Bob Stone|Stop|Resume|Joanne"_s);
+}
+
+// Catches a note that cannot be begun or left by the keys alone, an offer that takes what is typed
+// without being one, and a way out that ends elsewhere.
+TEST_F(Hands, ANoteIsBegunWrittenAndLeftByTheKeyboard) {
+    withFriends().setCurrentTemplate(u"Hi {first_name}{custom_note}"_s);
+    WindowDriver& user = show();
+    ASSERT_TRUE(user.until([&] { return user.shows(u"Ann Lee"_s); }));
+    while (!user.focused().startsWith(u"Ann Lee"))
+        user.key(Qt::Key_Tab);
+    user.key(Qt::Key_Down);
+    for (const int back : {Qt::Key_Left, Qt::Key_Escape}) {
+        user.key(Qt::Key_Right);
+        EXPECT_EQ(user.focused(), u"Add note");
+        user.key(back);
+        EXPECT_TRUE(user.focused().startsWith(u"Bob Stone"));
+    }
+    user.key(Qt::Key_Right);
+    user.key(Qt::Key_Space);
+    EXPECT_EQ(user.focused(), u"Personal note");
+    user.type(u"See you"_s);
+    EXPECT_EQ(model->config().notes.value(u"bob"_s), u"See you");
+    user.key(Qt::Key_Escape);
+    EXPECT_TRUE(user.focused().startsWith(u"Bob Stone"));
+    user.key(Qt::Key_Space);
+    EXPECT_EQ(model->selection(), QSet<QString>{u"bob"_s});
+    user.key(Qt::Key_Tab);
+    EXPECT_EQ(user.focused(), u"Personal note");
+    user.key(Qt::Key_Tab);
+    EXPECT_EQ(user.focused(), u"Message");
+    user.key(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(user.focused(), u"Personal note");
+    user.key(Qt::Key_Backtab, Qt::ShiftModifier);
+    user.key(Qt::Key_Down);
+    user.key(Qt::Key_Right);
+    user.key(Qt::Key_Up);
+    user.key(Qt::Key_Space);
+    EXPECT_TRUE(model->selection().isEmpty()) << "the offer kept the keyboard";
+}
+
+// Catches a pace that counts only once its field is left, one that is none, a break of the line
+// that comes along from elsewhere, and a field whose beginning is out of sight.
+TEST_F(Hands, WhatIsTypedIntoAFieldCountsAtOnce) {
+    withFriends();
+    WindowDriver& user = show();
+    model->openSettings();
+    user.settle();
+    QWindow* settings = WindowDriver::windowTitled(u"Settings"_s);
+    ASSERT_TRUE(settings != nullptr);
+    const QString shortest = u"Shortest wait between texts in seconds"_s;
+    const auto enter = [&](const QString& text) {
+        settings->requestActivate();
+        user.settle();
+        user.click(shortest, QAccessible::EditableText, settings);
+        user.key(Qt::Key_A, command);
+        user.type(text);
+    };
+    enter(u"12345.75"_s);
+    EXPECT_EQ(stored().delayMin, 12345.75);
+    settings->close();
+    model->openSettings();
+    enter(u"-4"_s);
+    EXPECT_EQ(stored().delayMin, 0) << "a wait before the one before";
+    user.key(Qt::Key_Return);
+    enter(u"45"_s);
+    user.key(Qt::Key_Escape);
+    EXPECT_EQ(stored().delayMin, 0) << "Escape brings back what stood there";
+    enter(u"soon"_s);
+    settings->close();
+    model->openSettings();
+    user.settle();
+    EXPECT_TRUE(
+        user.spoken({}, settings).contains(u"EditableText, "_s + shortest + u", value 0"_s));
+    settings->close();
+    user.window().requestActivate();
+    user.settle();
+
+    QGuiApplication::clipboard()->setText(u"ann\r\nlee\u2028 "_s);
+    user.click(u"Search people"_s);
+    user.key(Qt::Key_V, command);
+    EXPECT_EQ(model->searchText.value(), u"ann lee  ");
+}
+
+}  // namespace
+
+}  // namespace velmora
