@@ -37,6 +37,7 @@ Item {
     Timer {
         id: click
         interval: Application.styleHints.mouseDoubleClickInterval
+        onRunningChanged: opener.menu.opening = running
     }
     PointHandler {
         acceptedButtons: Qt.LeftButton
@@ -51,6 +52,7 @@ Item {
             if (active) {
                 click.restart();
                 opener.open();
+                menu.restingPlace = point.scenePressPosition;
             } else if (opener.dragged && menu.highlighted >= 0
                        && (menu.highlighted !== menu.markedIndex || !click.running)) {
                 menu.pick(menu.highlighted);

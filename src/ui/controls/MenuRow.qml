@@ -22,7 +22,8 @@ Item {
     readonly property color tint: highlighted ? Theme.overAccent
                                               : selectable ? Theme.primary : Theme.tertiary
 
-    signal pointed
+    /// The pointer has clicked on it.
+    signal clicked
     signal picked
 
     implicitWidth: separator ? 40 : line.implicitWidth + 2 * line.x
@@ -48,14 +49,10 @@ Item {
         radius: Theme.smallRadius
         color: row.highlighted ? Theme.accent : "transparent"
 
-        HoverHandler {
-            enabled: row.selectable
-            onHoveredChanged: if (hovered) row.pointed()
-        }
         TapHandler {
             enabled: row.selectable
             gesturePolicy: TapHandler.WithinBounds
-            onTapped: row.picked()
+            onTapped: row.clicked()
         }
     }
 

@@ -56,7 +56,7 @@ FocusScope {
             function append(suffix: string) {
                 if (suffix.length === 0)
                     return;
-                insert(length, suffix);
+                TextCommands.append(textDocument, suffix);
                 cursorPosition = length;
             }
 

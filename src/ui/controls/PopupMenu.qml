@@ -4,7 +4,7 @@ import QtQuick.Templates as T
 import Velmora
 
 /// A pop-up menu. Arrows, Return, Space and Escape work it, as do a click and a drag from the
-/// button that opened it.
+/// button that opened it. A pointer that rests where the menu opens means nothing by it.
 T.Popup {
     id: menu
 
@@ -16,6 +16,11 @@ T.Popup {
     /// The rows are made when the menu is first wanted.
     property bool made: false
     readonly property real rowsTop: topPadding
+    /// Whether a click may still be the second half of the one that opened the menu.
+    property bool opening: false
+    /// Where the pointer opened the menu or was first seen in it, and whether it has moved since.
+    property var restingPlace: null
+    property bool pointed: false
 
     signal chosen(int index)
     signal sideways(int delta)
@@ -43,6 +48,14 @@ T.Popup {
         if (!event.isAutoRepeat)
             pick(highlighted);
     }
+    function follow(scene: point) {
+        if (restingPlace === null)
+            restingPlace = scene;
+        pointed = pointed || Math.abs(scene.x - restingPlace.x) > 3
+                          || Math.abs(scene.y - restingPlace.y) > 3;
+        if (pointed)
+            track(scene);
+    }
     function track(scene: point) {
         const place = column.mapFromItem(null, scene.x, scene.y);
         const inside = place.x >= 0 && place.x < flick.width;
@@ -60,6 +73,8 @@ T.Popup {
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     onAboutToShow: {
         made = true;
+        restingPlace = null;
+        pointed = false;
         highlighted = markedIndex;
         focusedBefore = parent.Window.activeFocusItem;
     }
@@ -105,6 +120,9 @@ T.Popup {
         Keys.onTabPressed: {}
         Keys.onBacktabPressed: {}
 
+        HoverHandler {
+            onPointChanged: if (hovered) menu.follow(point.scenePosition)
+        }
         // No layout: in a closed menu it would go on holding rows that are gone.
         Column {
             id: column
@@ -118,7 +136,7 @@ T.Popup {
                     highlighted: menu.highlighted === index
                     marked: menu.markedIndex === index
                     marksColumn: menu.marksColumn
-                    onPointed: menu.highlighted = index
+                    onClicked: if (menu.pointed || !menu.opening) menu.pick(index)
                     onPicked: menu.pick(index)
                 }
             }

@@ -25,6 +25,7 @@ enum class Command {
     copy,
     paste,
     selectAllText,
+    find,
     selectShown,
     clearShown,
     reload,

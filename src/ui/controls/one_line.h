@@ -5,8 +5,8 @@
 
 namespace velmora {
 
-/// Keeps what comes into a field of one line on one line: a line break, as a text from elsewhere may
-/// hold, becomes a space.
+/// Keeps what comes into a field of one line on one line: a line break, as a text from elsewhere
+/// may hold, becomes a space.
 class OneLine final : public QValidator {
     Q_OBJECT
     QML_ELEMENT

@@ -1,6 +1,8 @@
 #include "ui/controls/text_commands.h"
 
 #include <QEvent>
+#include <QTextCursor>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
 
@@ -31,18 +33,13 @@ const char* operationOf(Command command) {
     }
 }
 
-bool canRun(Command command, const QObject& field) {
-    switch (command) {
-        case Command::undo:
-            return field.property("canUndo").toBool();
-        case Command::paste:
-            return field.property("canPaste").toBool();
-        case Command::cut:
-        case Command::copy:
-            return !field.property("selectedText").toString().isEmpty();
-        default:
-            return field.property("length").toInt() > 0;
-    }
+// Whether a text that cannot be edited takes the command.
+bool reads(Command command) {
+    return command == Command::copy || command == Command::selectAllText;
+}
+
+bool has(const QObject* field, const QByteArray& operation) {
+    return field != nullptr && field->metaObject()->indexOfMethod(operation + "()") >= 0;
 }
 
 }  // namespace
@@ -61,12 +58,10 @@ QVariantList TextCommands::entriesFor(const QObject* field) {
     const bool fixed = field->property("readOnly").toBool();
     QVariantList entries;
     for (MenuEntry& entry : editMenu()) {
-        const bool reads =
-            entry.command == Command::copy || entry.command == Command::selectAllText;
-        if (entry.command == Command::redo || (fixed && !reads))
+        if (entry.command == Command::redo || (fixed && !reads(entry.command)))
             continue;
         entry.shortcut.clear();
-        entry.enabled = canRun(entry.command, *field);
+        entry.enabled = canRun(entry.command, field);
         entries.append(QVariant::fromValue(entry));
     }
     return entries;
@@ -74,8 +69,37 @@ QVariantList TextCommands::entriesFor(const QObject* field) {
 
 void TextCommands::run(Command command, QObject* field) {
     const QByteArray operation = operationOf(command);
-    if (field != nullptr && field->metaObject()->indexOfMethod(operation + "()") >= 0)
+    if (has(field, operation))
         QMetaObject::invokeMethod(field, operation.constData());
+}
+
+bool TextCommands::canRun(Command command, const QObject* field) {
+    if (!has(field, operationOf(command)) ||
+        (field->property("readOnly").toBool() && !reads(command)))
+        return false;
+    switch (command) {
+        case Command::undo:
+            return field->property("canUndo").toBool();
+        case Command::redo:
+            return field->property("canRedo").toBool();
+        case Command::paste:
+            return field->property("canPaste").toBool();
+        case Command::cut:
+        case Command::copy:
+            return !field->property("selectedText").toString().isEmpty();
+        default:
+            return field->property("length").toInt() > 0;
+    }
+}
+
+void TextCommands::append(QQuickTextDocument* document, const QString& suffix) {
+    QTextCursor end(document->textDocument());
+    end.movePosition(QTextCursor::End);
+    end.beginEditBlock();
+    // The toolkit joins an insertion with the next one, but never a removal.
+    end.insertText(suffix + u' ');
+    end.deletePreviousChar();
+    end.endEditBlock();
 }
 
 void TextCommands::passShortcuts(QObject* field) {

@@ -68,12 +68,14 @@ Item {
         y: title.height + 2
         modal: false
         visible: title.open
-        entries: title.modelData.entries
-        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
-        onAboutToShow: focusedBefore = title.keyboardBefore
         onAboutToHide: if (title.opened >= 0 && !title.open) focusedBefore = null
+        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+        onAboutToShow: {
+            entries = title.commands.entriesFor(title.index, title.keyboardBefore);
+            focusedBefore = title.keyboardBefore;
+        }
         onClosed: title.dismissed()
-        onChosen: index => title.commands.run(title.modelData.entries[index].command)
+        onChosen: index => title.commands.run(entries[index].command)
         onSideways: delta => title.wanted(title.index + delta)
     }
 }

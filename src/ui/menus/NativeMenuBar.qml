@@ -45,6 +45,7 @@ Platform.MenuBar {
             }
 
             title: modelData.title
+            onAboutToShow: bar.commands.lookAtField()
             visible: !modelData.application
         }
     }

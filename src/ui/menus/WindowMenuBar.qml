@@ -2,8 +2,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Velmora
 
-/// The menu bar in the window, where the desktop has none of its own. While a menu is open, the
-/// pointer or the arrow keys go on to its neighbours.
+/// The menu bar in the window, where the desktop has none of its own. As that one it lies over
+/// everything. While a menu is open, the pointer or the arrow keys go on to its neighbours.
 Rectangle {
     id: bar
 
@@ -19,33 +19,23 @@ Rectangle {
     }
 
     implicitHeight: 28
-    enabled: commands.contentOffered
     color: Theme.windowBackground
     Accessible.role: Accessible.MenuBar
-    Accessible.ignored: !enabled
 
-    Shortcut {
-        sequence: "F10"
-        enabled: bar.visible
-        onActivated: bar.open(0)
-    }
-    UnspokenArea {
+    Row {
         x: 6
-        Accessible.ignored: bar.enabled
 
-        Row {
-            Repeater {
-                id: titles
-                model: bar.commands.menus
+        Repeater {
+            id: titles
+            model: bar.commands.menus
 
-                MenuTitle {
-                    height: bar.height - 1
-                    opened: bar.opened
-                    commands: bar.commands
-                    keyboardBefore: bar.keyboardBefore
-                    onWanted: place => bar.open((place + titles.count) % titles.count)
-                    onDismissed: if (bar.opened === index) bar.opened = -1
-                }
+            MenuTitle {
+                height: bar.height - 1
+                opened: bar.opened
+                commands: bar.commands
+                keyboardBefore: bar.keyboardBefore
+                onWanted: place => bar.open((place + titles.count) % titles.count)
+                onDismissed: if (bar.opened === index) bar.opened = -1
             }
         }
     }

@@ -15,15 +15,15 @@ namespace {
 
 using menus::Command;
 
-/// Where an item is offered and its shortcut heard: everywhere, everywhere once the terms are
-/// accepted, in the main window while nothing covers its content, or in the text field that has
-/// the keyboard.
+/// What an item acts on: the application; the same, once the terms are accepted; the main window's
+/// content, while nothing covers it; or the text field that has the keyboard.
 enum class Reach { application, agreed, content, text };
 
 Reach reachOf(Command command) {
     switch (command) {
         case Command::settings:
             return Reach::agreed;
+        case Command::find:
         case Command::selectShown:
         case Command::clearShown:
         case Command::reload:
@@ -63,6 +63,13 @@ QVariant applicationMenu() {
                  {},
                  item(u"Quit Velmora"_s, u"Ctrl+Q"_s, Command::quit)},
                 Owner::application);
+}
+
+std::vector<MenuEntry> editMenu() {
+    std::vector<MenuEntry> entries = TextCommands::editMenu();
+    entries.emplace_back();
+    entries.push_back(item(u"Find"_s, u"Ctrl+F"_s, Command::find));
+    return entries;
 }
 
 QVariant peopleMenu() {
@@ -127,7 +134,7 @@ void MenuCommands::become(Circumstances circumstances) {
 QVariantList MenuCommands::menus() const {
     return {applicationMenu(),
             menu(u"File"_s, {item(u"Close"_s, u"Ctrl+W"_s, Command::close)}),
-            menu(u"Edit"_s, TextCommands::editMenu()),
+            menu(u"Edit"_s, editMenu()),
             peopleMenu(),
             menu(u"Window"_s, {item(u"Minimize"_s, u"Ctrl+M"_s, Command::minimize),
                                item(u"Zoom"_s, u""_s, Command::zoom)}),
@@ -146,7 +153,7 @@ QVariantList MenuCommands::shortcuts() const {
 QVariantList MenuCommands::offers() const {
     QVariantList offered;
     for (MenuEntry& item : itemsOf(menus())) {
-        item.enabled = isOffered(item.command);
+        item.enabled = isOffered(item.command, field_);
         if (item.command == Command::send && now_.paused)
             item.shortcut.clear();
         const auto place = static_cast<qsizetype>(item.command);
@@ -156,14 +163,29 @@ QVariantList MenuCommands::offers() const {
     return offered;
 }
 
-bool MenuCommands::isOffered(Command command) const {
+QVariantList MenuCommands::entriesFor(int place, const QObject* field) const {
+    QVariantList entries = menus().value(place).value<Menu>().entries;
+    for (QVariant& each : entries) {
+        auto entry = each.value<MenuEntry>();
+        entry.enabled = isOffered(entry.command, field);
+        each = QVariant::fromValue(entry);
+    }
+    return entries;
+}
+
+void MenuCommands::lookAtField() {
+    field_ = QGuiApplication::focusObject();
+    Q_EMIT offersChanged();
+}
+
+bool MenuCommands::isOffered(Command command, const QObject* field) const {
     switch (reachOf(command)) {
         case Reach::agreed:
             return now_.agreed;
-        case Reach::content:
-            return contentOffered();
-        case Reach::application:
         case Reach::text:
+            return TextCommands::canRun(command, field);
+        case Reach::content:
+        case Reach::application:
             break;
     }
     return true;
@@ -174,6 +196,8 @@ bool MenuCommands::meansWindow(Command command) {
 }
 
 void MenuCommands::run(Command command) {
+    if (now_.covered && reachOf(command) == Reach::content)
+        return;
     switch (command) {
         case Command::none:
             return;
@@ -183,6 +207,8 @@ void MenuCommands::run(Command command) {
             return model_.openSettings();
         case Command::quit:
             return QCoreApplication::quit();
+        case Command::find:
+            return Q_EMIT findRequested();
         case Command::selectShown:
             return model_.selectShown();
         case Command::clearShown:

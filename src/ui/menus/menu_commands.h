@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QVariantList>
 #include <QtQmlIntegration>
@@ -43,8 +44,13 @@ class MenuCommands final : public QObject {
     /// but for the Edit menu's, which a text field answers itself. Each a `MenuEntry`.
     [[nodiscard]] QVariantList shortcuts() const;
     /// Every item as it stands now, each a `MenuEntry` at the place of its command's value:
-    /// disabled where it is not offered, and without a shortcut while its keys are another's.
+    /// disabled where it is not offered, and without a shortcut while its keys are another's. What
+    /// the Edit menu offers is that of the text field that has the keyboard at the last look.
     [[nodiscard]] QVariantList offers() const;
+    /// The items of the menu at that place as they stand now, its texts' for `field`.
+    Q_INVOKABLE QVariantList entriesFor(int place, const QObject* field) const;
+    /// Looks at the text field that has the keyboard.
+    Q_INVOKABLE void lookAtField();
     /// Whether what acts on the main window's content is offered: nothing covers it.
     [[nodiscard]] bool contentOffered() const { return !now_.covered; }
     /// Whether the command means the window in front, and its keys are heard there alone.
@@ -52,12 +58,15 @@ class MenuCommands final : public QObject {
 
     /// Tells whether something covers the main window's content; at first nothing does.
     void setContentCovered(bool covered);
-    /// Does what the item says, at once.
+    /// Does what the item says, at once; nothing where the window's content is covered and the item
+    /// acts on it.
     Q_INVOKABLE void run(velmora::menus::Command command);
 
   Q_SIGNALS:
     void offersChanged();
     void aboutRequested();
+    /// The keyboard is wanted in the search for people.
+    void findRequested();
 
   private:
     /// What the offers hang on.
@@ -70,10 +79,11 @@ class MenuCommands final : public QObject {
 
     void follow();
     void become(Circumstances circumstances);
-    [[nodiscard]] bool isOffered(menus::Command command) const;
+    [[nodiscard]] bool isOffered(menus::Command command, const QObject* field) const;
 
     AppModel& model_;
     Circumstances now_;
+    QPointer<QObject> field_;
 };
 
 }  // namespace velmora

@@ -26,6 +26,13 @@ Item {
         text: "Clear Shown"
     }
 
+    Connections {
+        target: bar.model
+        function onSearchRequested() {
+            if (bar.visible && bar.enabled)
+                search.forceActiveFocus(Qt.ShortcutFocusReason);
+        }
+    }
     GridLayout {
         id: grid
 
@@ -52,6 +59,7 @@ Item {
             onChosen: index => bar.model.showSelectedOnly(index === 1)
         }
         SearchEntry {
+            id: search
             Layout.fillWidth: true
             Layout.minimumWidth: 120
             Layout.maximumWidth: 260

@@ -78,6 +78,8 @@ class RecipientsModel final : public QAbstractListModel {
     void filterChanged();
     void contentChanged();
     void topRowChanged();
+    /// The keyboard is wanted in the search.
+    void searchRequested();
 
   private:
     [[nodiscard]] const Recipient* recipientAt(int row) const;

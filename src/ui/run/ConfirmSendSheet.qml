@@ -83,6 +83,7 @@ SheetFrame {
             onClicked: sheet.model.cancel()
         },
         PushButton {
+            focus: true
             kind: PushButton.Prominent
             controlSize: PushButton.Large
             text: "Start Sending"

@@ -30,8 +30,16 @@ T.ApplicationWindow {
 
     menuBar: WindowMenuBar {
         id: bar
+        // Over what covers the rest of the window, which is at a million.
+        z: 2000000
         visible: !root.nativeMenus
         commands: root.presentation.menus
+    }
+    // No item's, for what lies over the window would keep its key from it.
+    readonly property Shortcut menuKey: Shortcut {
+        sequence: "F10"
+        enabled: !root.nativeMenus
+        onActivated: bar.open(0)
     }
     MenuShortcuts {
         active: !root.nativeMenus

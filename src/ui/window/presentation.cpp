@@ -16,6 +16,7 @@ Presentation::Presentation(AppModel& model)
     const auto followCover = [this] { menus_.setContentCovered(!window_.commandsEnabled()); };
     connect(&window_, &MainWindowModel::changed, this, followCover);
     followCover();
+    connect(&menus_, &MenuCommands::findRequested, &recipients_, &RecipientsModel::searchRequested);
 }
 
 }  // namespace velmora

@@ -157,6 +157,82 @@ TEST_F(Hands, WhatIsTypedIntoAFieldCountsAtOnce) {
     EXPECT_EQ(model->searchText.value(), u"ann lee  ");
 }
 
+// Catches a menu that what lies over the window keeps from its work, one that offers what cannot be
+// done, a key that does not lead to the search, and a sheet without a button under the Return key.
+TEST_F(Hands, MenusWorkUnderASheetAndOfferWhatCanBeDone) {
+    withFriends().setCurrentTemplate(u"Hello"_s);
+    model->setSelection({u"ann"_s});
+    WindowDriver& user = show();
+    user.key(Qt::Key_F, command);
+    EXPECT_EQ(user.focused(), u"Search people");
+    const auto offered = [&](int menu) {
+        user.key(Qt::Key_F10);
+        for (int turn = 0; turn < menu; ++turn)
+            user.key(Qt::Key_Right);
+        QStringList items;
+        for (QAccessibleInterface* each : user.elements())
+            if (each->role() == QAccessible::MenuItem &&
+                each->text(QAccessible::Description).isEmpty())
+                items.append(each->text(QAccessible::Name));
+        return items.join(u'|').toStdString();
+    };
+    QGuiApplication::clipboard()->clear();
+    EXPECT_EQ(offered(2), "Find");
+    user.key(Qt::Key_Escape);
+    user.click(u"Message"_s, QAccessible::EditableText);
+    user.type(u"x"_s);
+    EXPECT_EQ(offered(2), "Undo|Select All|Find");
+    user.key(Qt::Key_Escape);
+
+    user.key(Qt::Key_Return, command);
+    ASSERT_TRUE(user.until([&] { return user.shows(u"Start Sending"_s); }));
+    user.settle();
+    EXPECT_EQ(user.focused(), u"Start Sending");
+    EXPECT_EQ(offered(3), "Select All|Clear Selection|Reload from Contacts|Send\u2026");
+    user.key(Qt::Key_Up);
+    user.key(Qt::Key_Up);
+    user.key(Qt::Key_Up);
+    user.key(Qt::Key_Return);
+    EXPECT_EQ(model->selection().size(), 1) << "reached under the sheet";
+    user.key(Qt::Key_F10);
+    user.key(Qt::Key_Down);
+    user.key(Qt::Key_Return);
+    EXPECT_TRUE(WindowDriver::windowTitled(u"About Velmora"_s) != nullptr);
+}
+
+// Catches a pointer that takes the place of the keyboard by lying there, the second half of a
+// double click that chooses, and an inserted piece whose undoing takes more along.
+TEST_F(Hands, OnlyWhatIsMeantIsChosen) {
+    thread(u"+12125550102"_s, myOtherLine);
+    thread(u"+12125550103"_s, myOtherLine);
+    withFriends().setCurrentTemplate(u""_s);
+    model->setSenderNumber(myLine);
+    WindowDriver& user = show();
+    user.click(u"Message"_s, QAccessible::EditableText);
+    user.type(u"Hello "_s);
+    user.click(u"Insert"_s);
+    user.click(u"First name"_s);
+    user.type(u"!"_s);
+    for (const QString& left : {u"Hello {first_name}"_s, u"Hello "_s, u""_s}) {
+        user.key(Qt::Key_Z, command);
+        EXPECT_EQ(model->currentTemplate(), left);
+    }
+    model->openSettings();
+    user.settle();
+    QWindow* settings = WindowDriver::windowTitled(u"Settings"_s);
+    const QPoint picker =
+        user.place(u"Send from"_s, QAccessible::ComboBox, settings) - QPoint(0, 8);
+    QTest::mouseMove(settings, picker);
+    QTest::mouseDClick(settings, Qt::LeftButton, {}, picker);
+    user.settle();
+    EXPECT_EQ(model->config().senderNumber, myLine);
+    user.key(Qt::Key_Up);
+    QTest::mouseMove(settings, picker + QPoint(1, 0));
+    user.settle();
+    user.key(Qt::Key_Return);
+    EXPECT_EQ(model->config().senderNumber, myOtherLine) << "the pointer lay over another";
+}
+
 }  // namespace
 
 }  // namespace velmora
