@@ -46,6 +46,7 @@ Column {
             width: Math.min(implicitWidth,
                             line.maximumWidth - (symbol.visible ? symbol.width + 4 : 0))
             text: line.entry.thread.text
+            Accessible.name: line.entry.thread.spoken
             color: Theme.colorOf(line.entry.thread.textTone, line.entry.faint)
             font.pixelSize: Theme.caption
             wrapMode: Text.NoWrap

@@ -44,6 +44,10 @@ ListView {
     Accessible.name: "People"
     T.ScrollBar.vertical: SlimScrollBar {}
 
+    ReadingOrder {
+        rows: list.contentItem
+    }
+
     // A row that grows while its note is typed: after the list has laid it out.
     Timer {
         id: revealing

@@ -25,11 +25,13 @@ Remark issueOf(const Recipient& recipient) {
     if (needsAttention(recipient.issue)) {
         return {.text = *recipient.issue,
                 .symbol = u"exclamationmark.triangle.fill"_s,
+                .spoken = *recipient.issue,
                 .textTone = Tone::primary,
                 .symbolTone = Tone::orange};
     }
     return {.text = *recipient.issue,
             .symbol = u"info.circle"_s,
+            .spoken = *recipient.issue,
             .textTone = Tone::secondary,
             .symbolTone = Tone::secondary};
 }
@@ -40,13 +42,17 @@ QString labelBesidePhone(const Recipient& recipient) {
 
 Remark threadOf(const Recipient& recipient, const QString& senderNumber) {
     if (!recipient.thread) {
-        return {.text = recipient.usable ? u"No thread yet"_s : QString(),
+        const QString none = recipient.usable ? u"No thread yet"_s : QString();
+        return {.text = none,
                 .symbol = {},
+                .spoken = none,
                 .textTone = Tone::tertiary};
     }
     const bool other = isOnOtherLine(*recipient.thread, senderNumber);
-    return {.text = recipient.thread->service + u' ' + displayPhone(recipient.thread->line),
+    const QString text = recipient.thread->service + u' ' + displayPhone(recipient.thread->line);
+    return {.text = text,
             .symbol = other ? u"exclamationmark.circle.fill"_s : u"checkmark.circle.fill"_s,
+            .spoken = text + (other ? u", wrong line"_s : u", right line"_s),
             .textTone = Tone::secondary,
             .symbolTone = other ? Tone::red : Tone::green};
 }

@@ -14,12 +14,14 @@ struct Remark {
     QML_VALUE_TYPE(remark)
     Q_PROPERTY(QString text MEMBER text)
     Q_PROPERTY(QString symbol MEMBER symbol)
+    Q_PROPERTY(QString spoken MEMBER spoken)
     Q_PROPERTY(velmora::look::Tone textTone MEMBER textTone)
     Q_PROPERTY(velmora::look::Tone symbolTone MEMBER symbolTone)
 
   public:
     QString text;
     QString symbol;
+    QString spoken = {};  ///< the text, and what the symbol says
     Tone textTone = Tone::primary;
     Tone symbolTone = Tone::primary;
 

@@ -43,6 +43,9 @@ ColumnLayout {
             Accessible.role: Accessible.List
             Accessible.name: "Activity"
             T.ScrollBar.vertical: SlimScrollBar {}
+            ReadingOrder {
+                rows: list.contentItem
+            }
             delegate: ActivityRow {
                 width: list.width
                 current: ListView.isCurrentItem && list.activeFocus

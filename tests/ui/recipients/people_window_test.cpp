@@ -22,6 +22,9 @@ TEST_F(WindowTest, SearchLimitsWhatIsSelected) {
     EXPECT_TRUE(user.until([&] { return user.shows(u"No matches"_s); }));
     user.key(Qt::Key_Escape);
     EXPECT_TRUE(user.until([&] { return user.shows(u"Ann Lee"_s) && user.shows(u"Clear All"_s); }));
+    const QStringList read = user.spoken(u"People"_s, &user.window());
+    EXPECT_LT(read.indexOf(u"StaticText, Ann Lee"_s), read.indexOf(u"StaticText, Bob Stone"_s))
+        << "read in another order than it stands";
     user.click(u"Selected"_s);
     EXPECT_TRUE(user.until([&] { return !user.shows(u"Ann Lee"_s); }));
     EXPECT_TRUE(user.click(u"Clear Shown"_s));

@@ -75,6 +75,7 @@ TEST_F(Recipients, eachPersonSaysWhatTheyAre) {
     EXPECT_EQ(column(&RecipientEntry::phoneLabel), u"|||||"_s) << "mobile goes without saying";
     const Remark other{.text = u"iMessage "_s + displayPhone(myOtherLine),
                        .symbol = u"exclamationmark.circle.fill"_s,
+                       .spoken = u"iMessage "_s + displayPhone(myOtherLine) + u", wrong line"_s,
                        .textTone = Tone::secondary,
                        .symbolTone = Tone::red};
     EXPECT_EQ(entry(1).thread, other);
