@@ -144,6 +144,8 @@ void message(Stage& stage) {
 
 void run(Stage& stage) {
     stage.startDinner();
+    stage.until(u"a text under way"_s,
+                [&] { return stage.model().runner().current.value().has_value(); });
     stage.show(u"24-sending"_s);
     stage.model().openSettings();
     stage.show(u"25-settings-during-a-run"_s, stage.window(u"Settings"_s));
@@ -205,6 +207,18 @@ void settings(Stage& stage) {
     stage.show(u"35-about"_s, stage.window(u"About Velmora"_s));
 }
 
+// Numbers with a comma, and a clock of twice twelve hours.
+void otherLanguage(Stage& stage) {
+    const QLocale before;
+    QLocale::setDefault(QLocale(u"el_GR"_s));
+    stage.openDinner();
+    stage.model().editConfig([](AppConfig& config) { config.delayMin = 2.5; });
+    stage.model().openSettings();
+    stage.show(u"36-settings-in-another-language"_s, stage.window(u"Settings"_s));
+    stage.closeWindow(u"Settings"_s);
+    QLocale::setDefault(before);
+}
+
 }  // namespace
 
 }  // namespace velmora
@@ -214,8 +228,9 @@ int main(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
     const QDir folder = Stage::folderForPictures();
-    for (auto* scene : {firstStart, noNumber, severalNumbers, contactsDenied, emptyStates, lists,
-                        message, run, stopping, pausedForHours, pausedForFailures, settings}) {
+    for (auto* scene :
+         {firstStart, noNumber, severalNumbers, contactsDenied, emptyStates, lists, message, run,
+          stopping, pausedForHours, pausedForFailures, settings, otherLanguage}) {
         Stage stage(folder);
         scene(stage);
     }

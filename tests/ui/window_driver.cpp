@@ -26,13 +26,18 @@ void hear(QtMsgType type, const QMessageLogContext&, const QString& message) {
         heard().append(message);
 }
 
+// As it reads: a space that keeps its neighbours together is one like any other.
+QString nameOf(QAccessibleInterface* element) {
+    return element->text(QAccessible::Name).replace(QChar::Nbsp, u' ');
+}
+
 QAccessibleInterface* findBelow(QAccessibleInterface* root, const QString& name,
                                 QAccessible::Role role) {
     if (root == nullptr || root->state().invisible)
         return nullptr;
     const bool fits =
         role == QAccessible::NoRole ? root->role() != QAccessible::Window : root->role() == role;
-    if (fits && root->text(QAccessible::Name) == name)
+    if (fits && nameOf(root) == name)
         return root;
     // The last child lies on top.
     for (int child = root->childCount() - 1; child >= 0; --child)
@@ -49,8 +54,7 @@ void layOut(QWindow* window) {
 
 QString speech(QAccessibleInterface* element) {
     const QAccessible::State state = element->state();
-    QStringList words{QVariant::fromValue(element->role()).toString(),
-                      element->text(QAccessible::Name)};
+    QStringList words{QVariant::fromValue(element->role()).toString(), nameOf(element)};
     QAccessibleValueInterface* number = element->valueInterface();
     const QString value =
         number != nullptr ? number->currentValue().toString() : element->text(QAccessible::Value);

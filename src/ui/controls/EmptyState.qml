@@ -10,11 +10,14 @@ Item {
     required property string title
     required property string message
     property string button
+    /// How much of the column lies above. Two of these side by side have their symbols on one line.
+    property real above: 0
 
     signal activated
 
     Column {
-        anchors.centerIn: parent
+        x: Theme.sheetPadding
+        y: Math.max(0, Math.round((parent.height + empty.above) / 2 - 64 - empty.above))
         width: parent.width - 2 * Theme.sheetPadding
         spacing: 4
 
@@ -23,7 +26,7 @@ Item {
             name: empty.icon
             size: 42
             light: true
-            color: Theme.tertiary
+            color: Theme.emblem
         }
         BodyText {
             width: parent.width

@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Layouts
 import Velmora
 
-/// One row of a form's group: what it is about and, at the trailing side, the controls for it.
+/// One row of a form's group: what it is about and, at the trailing side, the controls for it. Where
+/// they are off, its words step back as they do.
 RowLayout {
     id: row
 
@@ -17,6 +18,7 @@ RowLayout {
 
     LineText {
         Layout.fillWidth: true
+        opacity: row.enabled ? 1 : Theme.disabledOpacity
         text: row.title
         visible: row.title.length > 0
     }

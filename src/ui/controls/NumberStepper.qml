@@ -35,6 +35,7 @@ Item {
 
         BodyText {
             Layout.fillWidth: true
+            opacity: stepper.enabled ? 1 : Theme.disabledOpacity
             text: stepper.text
             Accessible.ignored: true
         }

@@ -33,8 +33,6 @@ FocusScope {
         width: parent.width
         maximumLineCount: passage.lines
         elide: Text.ElideRight
-        // To the leading edge of the interface, whatever language the text is in.
-        horizontalAlignment: Text.AlignLeft
         opacity: passage.selects ? 0 : 1
         text: passage.text
         color: passage.color
@@ -57,7 +55,6 @@ FocusScope {
             selectByMouse: true
             textFormat: TextEdit.PlainText
             wrapMode: TextEdit.Wrap
-            horizontalAlignment: TextEdit.AlignLeft
             text: passage.text
             color: passage.color
             selectionColor: Theme.selection

@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Velmora
 
-/// The overlay bar that shows where a list or a text stands, while it moves or is pointed at.
+/// The overlay bar that shows where a list or a text stands, while it moves or is pointed at, and for
+/// a moment when there is more than fits.
 T.ScrollBar {
     id: bar
 
@@ -13,12 +14,20 @@ T.ScrollBar {
     visible: size < 1
     Accessible.ignored: true
 
+    onVisibleChanged: if (visible) moment.restart()
+    Component.onCompleted: if (visible) moment.restart()
+
+    Timer {
+        id: moment
+        interval: 1500
+    }
+
     contentItem: Rectangle {
         implicitWidth: 7
         implicitHeight: 7
         radius: 3.5
         color: Theme.scrollThumb
-        opacity: bar.active || bar.hovered || bar.pressed ? 1 : 0
+        opacity: bar.active || bar.hovered || bar.pressed || moment.running ? 1 : 0
 
         Behavior on opacity {
             NumberAnimation { duration: Theme.quick * 2 }

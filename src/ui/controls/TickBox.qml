@@ -56,7 +56,7 @@ Item {
         SymbolIcon {
             anchors.centerIn: parent
             name: "checkmark"
-            size: 12
+            size: 14
             color: box.locked ? Theme.secondary : Theme.overAccent
             visible: box.checked
         }

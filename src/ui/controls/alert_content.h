@@ -4,6 +4,8 @@
 #include <QString>
 #include <QtQmlIntegration>
 
+#include "ui/controls/whole_numbers.h"
+
 namespace velmora {
 
 /// What an `AlertBox` says, and its buttons. Without an action there is only the one that lets the
@@ -25,7 +27,7 @@ struct AlertContent {
     /// An alert of Velmora's that only tells something.
     [[nodiscard]] static AlertContent saying(const QString& sentence) {
         return {.title = QStringLiteral("Velmora"),
-                .message = sentence,
+                .message = withWholeNumbers(sentence),
                 .dismissal = QStringLiteral("OK")};
     }
 

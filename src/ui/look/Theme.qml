@@ -19,6 +19,8 @@ QtObject {
     readonly property color primary: dark ? "#ececee" : "#1d1d1f"
     readonly property color secondary: dark ? "#b3b3b8" : "#5a5a5f"
     readonly property color tertiary: dark ? "#a8a8ae" : "#66666b"
+    // For a large symbol beside its own words.
+    readonly property color emblem: dark ? "#77777c" : "#8a8a8f"
     readonly property color accentText: dark ? "#66aeff" : "#0b5fd0"
     // White up to the accents that are too light for it, such as yellow.
     readonly property color overAccent: choosesAccent || accent.hslLightness < 0.6 ? "#ffffff"
@@ -49,7 +51,7 @@ QtObject {
     readonly property color switchOff: dark ? "#5c5c61" : "#d2d2d7"
     readonly property color separator: dark ? "#3d3d41" : "#dcdce0"
     readonly property color quaternary: dark ? "#1affffff" : "#0f000000"
-    readonly property color sheetDim: dark ? "#80000000" : "#33000000"
+    readonly property color sheetDim: dark ? "#59000000" : "#33000000"
     readonly property color shadow: dark ? "#66000000" : "#33000000"
 
     // What is chosen, pressed or focused.
@@ -75,6 +77,7 @@ QtObject {
     readonly property int boxRadius: 8
     readonly property int panelRadius: 10
     readonly property int largeRadius: 12
+    readonly property int widestRow: 820
     readonly property int controlHeight: 24
     readonly property int smallControlHeight: 20
     readonly property int largeControlHeight: 30

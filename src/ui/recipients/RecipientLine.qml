@@ -40,7 +40,7 @@ Column {
             anchors.verticalCenter: parent.verticalCenter
             name: line.entry.thread.symbol
             size: Theme.caption + 2
-            color: Theme.colorOf(line.entry.thread.symbolTone, false)
+            color: Theme.colorOf(line.entry.thread.symbolTone, line.entry.faint)
         }
         BodyText {
             width: Math.min(implicitWidth,

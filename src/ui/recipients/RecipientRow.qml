@@ -96,7 +96,8 @@ FocusScope {
 
         anchors.fill: parent
         anchors.leftMargin: Theme.padding
-        anchors.rightMargin: Theme.padding
+        // In a very wide window the number stays near the name.
+        anchors.rightMargin: Math.max(Theme.padding, row.width - Theme.padding - Theme.widestRow)
         anchors.topMargin: 5 + headingHeight
         opacity: row.entry.faint ? Theme.faintOpacity : 1
 

@@ -18,18 +18,23 @@ ColumnLayout {
     HorizontalDivider {
         Layout.fillWidth: true
     }
-    EmptyState {
+    // Content lies on the ground of texts, as the log does.
+    Rectangle {
         Layout.fillWidth: true
         Layout.fillHeight: true
-        visible: pane.model.showsNobody
-        icon: pane.model.emptyState.icon
-        title: pane.model.emptyState.title
-        message: pane.model.emptyState.message
-    }
-    RecipientsList {
-        Layout.fillWidth: true
-        Layout.fillHeight: true
-        visible: !pane.model.showsNobody
-        recipients: pane.model
+        color: Theme.textBackground
+
+        EmptyState {
+            anchors.fill: parent
+            visible: pane.model.showsNobody
+            icon: pane.model.emptyState.icon
+            title: pane.model.emptyState.title
+            message: pane.model.emptyState.message
+        }
+        RecipientsList {
+            anchors.fill: parent
+            visible: !pane.model.showsNobody
+            recipients: pane.model
+        }
     }
 }

@@ -2,6 +2,7 @@
 
 #include "app/recipient_check.h"
 #include "core/phone.h"
+#include "ui/controls/whole_numbers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -23,13 +24,13 @@ Remark issueOf(const Recipient& recipient) {
     if (!recipient.issue)
         return {};
     if (needsAttention(recipient.issue)) {
-        return {.text = *recipient.issue,
+        return {.text = withWholeNumbers(*recipient.issue),
                 .symbol = u"exclamationmark.triangle.fill"_s,
                 .spoken = *recipient.issue,
                 .textTone = Tone::primary,
                 .symbolTone = Tone::orange};
     }
-    return {.text = *recipient.issue,
+    return {.text = withWholeNumbers(*recipient.issue),
             .symbol = u"info.circle"_s,
             .spoken = *recipient.issue,
             .textTone = Tone::secondary,

@@ -45,14 +45,23 @@ ColumnLayout {
         RunProgress {
             id: bar
             width: parent.width
-            visible: section.going
+            opacity: section.going ? 1 : Theme.disabledOpacity
             value: section.model.progress
             total: section.model.progressTotal
         }
+        SymbolIcon {
+            id: mark
+            y: line.y
+            visible: section.paused
+            name: "exclamationmark.triangle.fill"
+            size: Theme.caption + 3
+            color: Theme.orange
+        }
         StatusLine {
             id: line
+            x: mark.visible ? mark.width + 5 : 0
             y: bar.height + section.spacing
-            width: parent.width
+            width: parent.width - x
             visible: section.going
         }
     }

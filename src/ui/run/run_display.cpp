@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "sending/send_outcome.h"
+#include "ui/controls/whole_numbers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -41,7 +42,7 @@ QString wholeSeconds(double delay) {
 }  // namespace
 
 QString statusLine(const Runner& runner) {
-    return joined({progressText(runner), nowText(runner), runner.message});
+    return withWholeNumbers(joined({progressText(runner), nowText(runner), runner.message}));
 }
 
 QString sendTitle(qsizetype people) {

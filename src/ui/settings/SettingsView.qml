@@ -9,11 +9,11 @@ FocusScope {
 
     required property SettingsModel settings
 
-    component Seconds: NumberEntry {
+    component RunRow: FormRow {
         enabled: !view.settings.locked
     }
-    component TimeOfDay: ClockPicker {
-        enabled: !view.settings.locked
+    component Word: BodyText {
+        opacity: enabled ? 1 : Theme.disabledOpacity
     }
 
     implicitWidth: 500
@@ -32,12 +32,11 @@ FocusScope {
             title: "Sending number"
             footer: "Your iPhone picks the line for SMS. Velmora checks every send against this number and pauses if one goes out on the other line."
 
-            FormRow {
+            RunRow {
                 title: "Send from"
 
                 ChoicePicker {
                     Layout.maximumWidth: 350
-                    enabled: !view.settings.locked
                     options: view.settings.senderOptions
                     currentIndex: view.settings.senderIndex
                     accessibleName: "Send from"
@@ -55,34 +54,34 @@ FocusScope {
             title: "Pacing"
             footer: "Texts go out one at a time, like you'd send them yourself, and only during the hours you set. A run stops on its own if something looks wrong."
 
-            FormRow {
+            RunRow {
                 title: "Wait between texts"
 
-                Seconds {
+                NumberEntry {
                     value: view.settings.delayMin
                     accessibleName: "Shortest wait between texts in seconds"
                     onValueEdited: value => view.settings.delayMin = value
                 }
-                BodyText { text: "to" }
-                Seconds {
+                Word { text: "to" }
+                NumberEntry {
                     value: view.settings.delayMax
                     accessibleName: "Longest wait between texts in seconds"
                     onValueEdited: value => view.settings.delayMax = value
                 }
-                BodyText { text: "seconds" }
+                Word { text: "seconds" }
             }
             FormDivider {}
-            FormRow {
+            RunRow {
                 title: "Send between"
 
-                TimeOfDay {
+                ClockPicker {
                     hour: view.settings.startHour
                     minute: view.settings.startMinute
                     accessibleName: "From"
                     onPicked: (hour, minute) => view.settings.setStart(hour, minute)
                 }
-                BodyText { text: "and" }
-                TimeOfDay {
+                Word { text: "and" }
+                ClockPicker {
                     hour: view.settings.endHour
                     minute: view.settings.endMinute
                     accessibleName: "Until"
@@ -90,10 +89,9 @@ FocusScope {
                 }
             }
             FormDivider {}
-            FormRow {
+            RunRow {
                 NumberStepper {
                     Layout.fillWidth: true
-                    enabled: !view.settings.locked
                     value: view.settings.maxFailures
                     from: view.settings.fewestFailures
                     to: view.settings.mostFailures

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/phone.h"
+#include "ui/controls/whole_numbers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -157,7 +158,7 @@ void SettingsModel::sendTest() {
 }
 
 QString SettingsModel::testResult() const {
-    return model_.testResult;
+    return withWholeNumbers(model_.testResult);
 }
 
 void SettingsModel::edit(const std::function<void(AppConfig&)>& change) {

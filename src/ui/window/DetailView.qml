@@ -11,6 +11,7 @@ ColumnLayout {
     spacing: 0
 
     BannersView {
+        id: banners
         Layout.fillWidth: true
         model: detail.presentation.window
     }
@@ -18,6 +19,7 @@ ColumnLayout {
         Layout.fillWidth: true
         Layout.fillHeight: true
         visible: !detail.presentation.window.showsList
+        above: banners.visible ? banners.height : 0
         icon: detail.presentation.window.emptyState.icon
         title: detail.presentation.window.emptyState.title
         message: detail.presentation.window.emptyState.message

@@ -148,7 +148,7 @@ TEST(Theme, TextStandsOutOnEverything) {
         ASSERT_EQ(theme->property("dark").toBool(), dark);
         const QColor window = color("windowBackground");
         const QColor focused = over(window, color("quaternary"), color("quaternary").alphaF());
-        for (const QColor& ground : {window, focused}) {
+        for (const QColor& ground : {window, focused, color("textBackground")}) {
             for (const Tone tone :
                  {Tone::primary, Tone::secondary, Tone::tertiary, Tone::accent, Tone::green}) {
                 expectContrast(toned(tone, false), ground, 1);
@@ -159,6 +159,8 @@ TEST(Theme, TextStandsOutOnEverything) {
                                    "textBackground", "menuBackground"})
             for (const char* ink : {"primary", "secondary"})
                 expectContrast(color(ink), color(ground), 1);
+        for (const char* ground : {"windowBackground", "textBackground"})
+            EXPECT_GE(contrast(color("emblem"), color(ground)), 3) << ground << dark;
         for (const char* ground : {"controlBackground", "controlHover", "controlPressed"})
             for (const char* ink : {"primary", "destructive"})
                 expectContrast(color(ink), color(ground), 1);

@@ -97,7 +97,7 @@ TEST_F(Settings, SendsOneTestAtATime) {
     world.clock.advance(60);
     EXPECT_TRUE(view->canSendTest());
     EXPECT_EQ(view->testResult(),
-              u"Sent by iMessage from (212) 555-9999. That matches your sending number."_s);
+              u"Sent by iMessage from (212)\u00A0555-9999. That matches your sending number."_s);
 }
 
 // Catches a number that is shown with grouping or too few digits, and text that passes for one.
