@@ -80,8 +80,8 @@ QVariantList ComposeModel::senderEntries() const {
     for (const NumberInfo& each : model_.numbers.value())
         entries.append(displayPhone(each.number));
     if (entries.isEmpty())
-        entries.append(QVariantMap{{u"text"_s, u"No number found on this Mac"_s},
-                                   {u"enabled"_s, false}});
+        entries.append(
+            QVariantMap{{u"text"_s, u"No number found on this Mac"_s}, {u"enabled"_s, false}});
     return entries;
 }
 

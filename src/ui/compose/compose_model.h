@@ -43,7 +43,8 @@ class ComposeModel final : public QObject {
     [[nodiscard]] static QVariantList insertEntries();
     /// The chosen number as a person reads it, or the request to choose one.
     [[nodiscard]] QString senderTitle() const;
-    /// All numbers to send from, or that there is none; `chooseSender` takes the chosen one's place.
+    /// All numbers to send from, or that there is none; `chooseSender` takes the chosen one's
+    /// place.
     [[nodiscard]] QVariantList senderEntries() const;
     /// The place of the chosen number; -1 when it is not among them.
     [[nodiscard]] int senderIndex() const;

@@ -44,10 +44,7 @@ QString labelBesidePhone(const Recipient& recipient) {
 Remark threadOf(const Recipient& recipient, const QString& senderNumber) {
     if (!recipient.thread) {
         const QString none = recipient.usable ? u"No thread yet"_s : QString();
-        return {.text = none,
-                .symbol = {},
-                .spoken = none,
-                .textTone = Tone::tertiary};
+        return {.text = none, .symbol = {}, .spoken = none, .textTone = Tone::tertiary};
     }
     const bool other = isOnOtherLine(*recipient.thread, senderNumber);
     const QString text = recipient.thread->service + u' ' + displayPhone(recipient.thread->line);

@@ -1,6 +1,5 @@
 #include "ui/run/confirm_model.h"
 
-
 #include "core/phone.h"
 #include "ui/run/run_display.h"
 
