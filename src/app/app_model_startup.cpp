@@ -99,8 +99,7 @@ QDateTime AppModel::timeOfDay(QuietField field) const {
 }
 
 void AppModel::setTimeOfDay(int hour, int minute, QuietField field) {
-    const QString text =
-        u"%1:%2"_s.arg(hour, 2, 10, QLatin1Char('0')).arg(minute, 2, 10, QLatin1Char('0'));
+    const QString text = u"%1:%2"_s.arg(hour, 2, 10, '0'_L1).arg(minute, 2, 10, '0'_L1);
     editConfig([&](AppConfig& config) { config.*settingOf(field) = text; });
 }
 

@@ -49,13 +49,13 @@ void ClockFields::setMinute(int minute) {
 
 QString ClockFields::hourText() const {
     if (!twelveHour_)
-        return u"%1"_s.arg(hour_, 2, 10, QLatin1Char('0'));
+        return u"%1"_s.arg(hour_, 2, 10, '0'_L1);
     const int shown = hour_ % hoursOfHalf;
     return QString::number(shown == 0 ? hoursOfHalf : shown);
 }
 
 QString ClockFields::minuteText() const {
-    return u"%1"_s.arg(minute_, 2, 10, QLatin1Char('0'));
+    return u"%1"_s.arg(minute_, 2, 10, '0'_L1);
 }
 
 QString ClockFields::halfText() const {

@@ -29,7 +29,7 @@ void ReadingOrder::keep() const {
     QList<QQuickItem*> rows = rows_->childItems();
     if (std::ranges::is_sorted(rows, {}, &QQuickItem::y))
         return;
-    std::ranges::stable_sort(rows, {}, &QQuickItem::y);
+    std::ranges::sort(rows, {}, &QQuickItem::y);
     for (qsizetype row = 1; row < rows.size(); ++row)
         rows[row]->stackAfter(rows[row - 1]);
 }

@@ -10,7 +10,7 @@ QUrl SymbolAddress::of(const QString& name, const QColor& tint, bool light) {
     const quint32 rgba =
         (static_cast<quint32>(tint.rgb()) << 8U) | static_cast<quint32>(tint.alpha());
     return u"image://symbol/%1/%2/%3"_s.arg(name, light ? u"light"_s : u"regular"_s)
-        .arg(rgba, 8, 16, QLatin1Char('0'));
+        .arg(rgba, 8, 16, '0'_L1);
 }
 
 }  // namespace velmora
