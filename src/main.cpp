@@ -1,5 +1,4 @@
 #include <QGuiApplication>
-#include <QIcon>
 #include <cstdio>
 #include <utility>
 
@@ -9,6 +8,7 @@
 #include "platform/platform.h"
 #include "storage/home_lock.h"
 #include "storage/support_folder.h"
+#include "ui/look/application_icon.h"
 #include "ui/window/main_window.h"
 #include "ui/window/notice.h"
 
@@ -45,7 +45,7 @@ int main(int argc, char** argv) {
     Platform platform = makePlatform(clock);
     // A platform with a look of its own takes the icon from the bundle, which this would replace.
     if (!platform.look)
-        QGuiApplication::setWindowIcon(QIcon(u":/velmora/icon/velmora.svg"_s));
+        QGuiApplication::setWindowIcon(applicationIcon());
     const QString folder = SupportFolder(platform.applicationSupport).path();
     const HomeLock lock(folder);
     if (lock.isTaken())

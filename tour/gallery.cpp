@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <cstdio>
 
+#include "tour/first_scenes.h"
 #include "tour/stage.h"
 
 using namespace Qt::StringLiterals;
@@ -12,83 +13,8 @@ namespace velmora {
 
 namespace {
 
-const QString addressBookPath = u"Library/Contacts/contacts.json"_s;
-const QString messagesPath = u"Library/Messages/messages.json"_s;
-const QString historyPath = u"Library/Messages/chat.db"_s;
-
 bool isPaused(Stage& stage) {
     return stage.model().runner().state == Runner::State::paused;
-}
-
-void firstStart(Stage& stage) {
-    const QByteArray history = stage.contentOf(historyPath);
-    stage.remove(historyPath);
-    stage.open();
-    stage.untilShown(u"I Agree"_s);
-    stage.show(u"01-terms"_s);
-    stage.click(u"I Agree"_s);
-    stage.untilShown(u"Not Now"_s);
-    // The loop of the drawing is 7 seconds.
-    for (const double moment : {0.2, 1.2, 2.3, 4.0, 6.6}) {
-        stage.passTo(moment, 7);
-        stage.show(u"02-full-disk-access-%1"_s.arg(moment));
-    }
-    stage.click(u"Not Now"_s);
-    stage.until(u"the banner"_s, [&] { return !stage.user().shows(u"Not Now"_s); });
-    stage.show(u"03-banner-full-disk-access"_s);
-    stage.place(historyPath, history);
-}
-
-void noNumber(Stage& stage) {
-    stage.editSettings([](AppConfig& config) { config.termsAccepted = u"1"_s; });
-    stage.emptyHistory();
-    stage.place(messagesPath, "{}");
-    stage.open();
-    stage.untilShown(u"Open Messages"_s);
-    stage.show(u"04-no-number"_s);
-    stage.click(u"Choose Later"_s);
-    stage.click(u"Open Settings"_s);
-    stage.show(u"05-settings-no-number"_s, stage.window(u"Settings"_s));
-}
-
-void severalNumbers(Stage& stage) {
-    stage.editSettings([](AppConfig& config) { config.termsAccepted = u"1"_s; });
-    stage.open();
-    stage.untilShown(u"Choose Later"_s);
-    stage.show(u"06-several-numbers"_s);
-    stage.click(u"Choose Later"_s);
-    stage.untilShown(u"Open Settings"_s);
-    stage.show(u"07-banner-sending-number"_s);
-}
-
-void contactsDenied(Stage& stage) {
-    stage.editSettings([](AppConfig& config) { config.termsAccepted = u"1"_s; });
-    stage.place(addressBookPath, R"({ "access": "denied" })");
-    stage.open();
-    stage.untilShown(u"Open System Settings"_s);
-    stage.expect(!stage.user().shows(u"Show Me How"_s) && !stage.user().shows(u"Open Settings"_s),
-                 u"a banner lies beside the explanation"_s);
-    stage.show(u"08-contacts-denied"_s);
-}
-
-void emptyStates(Stage& stage) {
-    stage.place(addressBookPath, stage.contentOf(addressBookPath)
-                                     .replace("\"groups\": [",
-                                              "\"groups\": [ { \"identifier\": \"g-none\", "
-                                              "\"name\": \"Choir\", \"members\": [] },"));
-    stage.openDinner();
-    stage.model().selectGroup({});
-    stage.untilShown(u"Choose a list"_s);
-    stage.show(u"09-no-list"_s);
-    stage.click(u"Choir, 0"_s);
-    stage.show(u"10-nobody"_s);
-    stage.click(u"Friday Dinner, 8"_s);
-    stage.click(u"Selected"_s);
-    stage.show(u"11-nobody-selected"_s);
-    stage.click(u"All"_s);
-    stage.click(u"Search people"_s);
-    stage.user().type(u"zebra"_s);
-    stage.show(u"12-no-matches"_s);
 }
 
 void lists(Stage& stage) {
@@ -165,8 +91,11 @@ void run(Stage& stage) {
 }
 
 void stopping(Stage& stage) {
-    stage.place(messagesPath, R"({ "recordAfter": 15 })");
     stage.startDinner();
+    stage.until(u"a wait"_s, [&] {
+        return stage.model().runner().done.value() == 2 && stage.model().runner().nextIn.value();
+    });
+    stage.place(messagesPath, R"({ "recordAfter": 15 })");
     stage.until(u"a text under way"_s,
                 [&] { return stage.model().runner().current.value().has_value(); });
     stage.click(u"Stop"_s);
@@ -211,12 +140,35 @@ void settings(Stage& stage) {
 void otherLanguage(Stage& stage) {
     const QLocale before;
     QLocale::setDefault(QLocale(u"el_GR"_s));
-    stage.openDinner();
+    stage.startDinner();
+    stage.until(u"the wrong line"_s, [&] { return isPaused(stage); });
+    stage.show(u"36-log-in-another-language"_s);
+    stage.click(u"Stop"_s);
+    stage.until(u"the end"_s, [&] { return stage.model().runner().state == Runner::State::done; });
     stage.model().editConfig([](AppConfig& config) { config.delayMin = 2.5; });
     stage.model().openSettings();
-    stage.show(u"36-settings-in-another-language"_s, stage.window(u"Settings"_s));
+    stage.show(u"37-settings-in-another-language"_s, stage.window(u"Settings"_s));
     stage.closeWindow(u"Settings"_s);
     QLocale::setDefault(before);
+}
+
+// And a window far wider than its content.
+void rightToLeft(Stage& stage) {
+    stage.place(addressBookPath, stage.contentOf(addressBookPath)
+                                     .replace("\"Friday Dinner\"", "\"ארוחת שישי\"")
+                                     .replace("\"Chloé\"", "\"נועה\"")
+                                     .replace("\"Martin\"", "\"מרטין\""));
+    stage.openDinner();
+    stage.click(u"Select All"_s);
+    stage.model().setCurrentTemplate(
+        u"היי {first_name}, נפגשים לארוחת ערב ביום שישי בשמונה אצלי? אני מבשל.{custom_note}"_s);
+    stage.model().setNote(u"p02"_s, u"תביאו את התמונות!"_s);
+    stage.show(u"38-right-to-left"_s);
+    stage.model().requestRun();
+    stage.untilShown(u"Start Sending"_s);
+    stage.show(u"39-confirm-right-to-left"_s);
+    stage.user().key(Qt::Key_Escape);
+    stage.showWide(u"40-very-wide"_s);
 }
 
 }  // namespace
@@ -230,7 +182,7 @@ int main(int argc, char** argv) {
     const QDir folder = Stage::folderForPictures();
     for (auto* scene :
          {firstStart, noNumber, severalNumbers, contactsDenied, emptyStates, lists, message, run,
-          stopping, pausedForHours, pausedForFailures, settings, otherLanguage}) {
+          stopping, pausedForHours, pausedForFailures, settings, otherLanguage, rightToLeft}) {
         Stage stage(folder);
         scene(stage);
     }

@@ -82,7 +82,7 @@ void Stage::remove(const QString& path) {
 }
 
 void Stage::emptyHistory() {
-    remove(u"Library/Messages/chat.db"_s);
+    remove(historyPath);
     if (!HistoryWriter::open(messagesHistoryPath(home_.path())))
         fail(u"the history could not be made"_s);
 }
@@ -186,6 +186,14 @@ void Stage::show(const QString& name, QWindow* other) {
             picture(look + u"-%1/"_s.arg(size.width()) + name, *window);
         }
     }
+}
+
+void Stage::showWide(const QString& name) {
+    QQuickWindow& window = user_->window();
+    if (window.devicePixelRatio() > 1)
+        return;
+    window.resize(2200, window.height());
+    picture(u"light/"_s + name, window);
 }
 
 void Stage::picture(const QString& name, QQuickWindow& window) {

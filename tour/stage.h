@@ -15,6 +15,11 @@ namespace velmora {
 
 enum class Pace { asFastAsPossible, asInLife };
 
+// Files of the home.
+inline const QString addressBookPath = QStringLiteral("Library/Contacts/contacts.json");
+inline const QString messagesPath = QStringLiteral("Library/Messages/messages.json");
+inline const QString historyPath = QStringLiteral("Library/Messages/chat.db");
+
 /// Where a scene plays: the sample home and the real window over it. Ends the program with a
 /// sentence and a last picture when something is not there, or the views complain.
 class Stage {
@@ -56,6 +61,8 @@ class Stage {
     /// Takes pictures of what the main window shows, or another: in light and dark, and as in life,
     /// the one on the screen.
     void show(const QString& name, QWindow* other = nullptr);
+    /// Takes one of the main window at 2200 points, in light; none where the display is dense.
+    void showWide(const QString& name);
 
     [[nodiscard]] const QDir& home() const { return home_; }
     [[nodiscard]] AppModel& model() { return *model_; }

@@ -87,9 +87,8 @@ void fixLine(Stage& stage) {
                      "line on your iPhone, then resume.",
                  u"the pause says "_s + message);
     stage.show(u"wrong-line"_s);
-    const QString path = u"Library/Messages/messages.json"_s;
-    stage.place(
-        path, stage.contentOf(path).replace(R"("+12125550113": { "line": "+12125550101" },)", ""));
+    stage.place(messagesPath, stage.contentOf(messagesPath)
+                                  .replace(R"("+12125550113": { "line": "+12125550101" },)", ""));
     stage.click(u"Resume"_s);
     untilState(Runner::State::running, u"the run after the pause"_s, 5, stage);
 }

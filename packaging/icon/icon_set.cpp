@@ -3,24 +3,17 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QImage>
-#include <QPainter>
-#include <QSvgRenderer>
 #include <array>
 #include <cstdio>
+
+#include "ui/look/drawn_look.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 QImage drawn(int pixels) {
-    // Small sizes have a drawing of their own, without the lines that would blur.
-    QSvgRenderer renderer(pixels <= 32 ? u":/velmora/icon/velmora-small.svg"_s
-                                       : u":/velmora/icon/velmora.svg"_s);
-    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    renderer.render(&painter);
-    return image;
+    return velmora::DrawnLook().picture(velmora::SystemPicture::applicationIcon, {pixels, pixels});
 }
 
 }  // namespace

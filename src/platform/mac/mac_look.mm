@@ -13,15 +13,25 @@ namespace velmora {
 
 namespace {
 
+NSFontWeight nativeWeight(SymbolWeight weight) {
+    switch (weight) {
+        case SymbolWeight::light:
+            return NSFontWeightLight;
+        case SymbolWeight::bold:
+            return NSFontWeightBold;
+        case SymbolWeight::regular:
+            break;
+    }
+    return NSFontWeightRegular;
+}
+
 // The symbol as a template image. It is a vector image: its size in points, which the number of
 // pixels stands in for, chooses its details, and whoever draws it chooses how large it becomes.
 NSImage* systemSymbol(const QString& name, double size, SymbolWeight weight) {
     NSImage* image = [NSImage imageWithSystemSymbolName:nativeText(name)
                                accessibilityDescription:nil];
-    NSImageSymbolConfiguration* configuration = [NSImageSymbolConfiguration
-        configurationWithPointSize:size
-                            weight:weight == SymbolWeight::light ? NSFontWeightLight
-                                                                 : NSFontWeightRegular];
+    NSImageSymbolConfiguration* configuration =
+        [NSImageSymbolConfiguration configurationWithPointSize:size weight:nativeWeight(weight)];
     return [image imageWithSymbolConfiguration:configuration];
 }
 

@@ -32,7 +32,8 @@ MenuOpener {
         id: popup
         x: -21
         y: -rowsTop - Math.max(0, picker.currentIndex) * 24
-        width: Math.max(implicitWidth, picker.width - popup.x)
+        // Not by its own place, which follows the width where the window is too narrow.
+        width: Math.max(implicitWidth, picker.width + 21)
         entries: picker.options
         markedIndex: picker.currentIndex
         marksColumn: true

@@ -25,7 +25,7 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             name: empty.icon
             size: 42
-            light: true
+            weight: "light"
             color: Theme.emblem
         }
         BodyText {

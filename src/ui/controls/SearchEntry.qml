@@ -44,6 +44,7 @@ FocusScope {
             focus: true
             plain: true
             small: true
+            placeholderTextColor: Theme.secondary
             onEdited: text => search.edited(text)
             Keys.onEscapePressed: event => {
                 event.accepted = field.length > 0;

@@ -7,8 +7,8 @@ import Velmora
 T.ScrollBar {
     id: bar
 
-    implicitWidth: vertical ? 11 : 40
-    implicitHeight: vertical ? 40 : 11
+    implicitWidth: vertical ? 10 : 40
+    implicitHeight: vertical ? 40 : 10
     padding: 2
     minimumSize: 0.06
     visible: size < 1
@@ -23,9 +23,9 @@ T.ScrollBar {
     }
 
     contentItem: Rectangle {
-        implicitWidth: 7
-        implicitHeight: 7
-        radius: 3.5
+        implicitWidth: 6
+        implicitHeight: 6
+        radius: 3
         color: Theme.scrollThumb
         opacity: bar.active || bar.hovered || bar.pressed || moment.running ? 1 : 0
 

@@ -8,14 +8,14 @@ Image {
     property string name
     property real size: 16
     property color color: Theme.primary
-    property bool light: false
+    property string weight: "regular"
 
     width: size
     height: size
-    source: SymbolAddress.of(name, color, light)
+    source: SymbolAddress.of(name, color, weight)
     sourceSize.width: size
     sourceSize.height: size
-    // A wide symbol reaches beyond its place on both sides.
+    // A symbol that is wider than high needs a wider place, and stands in its middle.
     fillMode: Image.Pad
     Accessible.ignored: true
 }

@@ -56,6 +56,7 @@ Item {
         SymbolIcon {
             anchors.centerIn: parent
             name: "checkmark"
+            weight: "bold"
             size: 14
             color: box.locked ? Theme.secondary : Theme.overAccent
             visible: box.checked

@@ -18,7 +18,7 @@ QtObject {
     // Text at 4.5 to 1 and more on what it stands on, symbols at 3 to 1.
     readonly property color primary: dark ? "#ececee" : "#1d1d1f"
     readonly property color secondary: dark ? "#b3b3b8" : "#5a5a5f"
-    readonly property color tertiary: dark ? "#a8a8ae" : "#66666b"
+    readonly property color tertiary: dark ? "#9a9aa0" : "#6d6d72"
     // For a large symbol beside its own words.
     readonly property color emblem: dark ? "#77777c" : "#8a8a8f"
     readonly property color accentText: dark ? "#66aeff" : "#0b5fd0"
@@ -99,17 +99,17 @@ QtObject {
     function colorOf(tone: int, faint: bool): color {
         switch (tone) {
         case Look.Tone.secondary:
-            return !faint ? secondary : dark ? "#d2d2d7" : "#36363a";
+            return !faint ? secondary : dark ? "#cfcfd4" : "#333337";
         case Look.Tone.tertiary:
-            return !faint ? tertiary : dark ? "#d2d2d7" : "#36363a";
+            return !faint ? tertiary : dark ? "#c2c2c7" : "#3a3a3e";
         case Look.Tone.accent:
-            return !faint ? accentText : dark ? "#abd3ff" : "#04317a";
+            return !faint ? accentText : dark ? "#94c7ff" : "#003a99";
         case Look.Tone.red:
             return red;
         case Look.Tone.orange:
-            return faint && !dark ? "#964800" : orange;
+            return faint && !dark ? "#aa4b00" : orange;
         case Look.Tone.green:
-            return !faint ? green : dark ? "#6fe98a" : "#0b3f1a";
+            return !faint ? green : dark ? "#5cdb79" : "#004a14";
         case Look.Tone.primary:
             return primary;
         }

@@ -4,6 +4,7 @@
 #include <QLoggingCategory>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -16,8 +17,10 @@ QByteArray drawing(const QString& name, SymbolWeight weight) {
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QByteArray svg = file.readAll();
-    if (weight == SymbolWeight::light)
-        svg.replace(R"(stroke-width="1.6")", R"(stroke-width="1")");
+    if (weight != SymbolWeight::regular)
+        svg.replace(R"(stroke-width="1.6")", weight == SymbolWeight::light
+                                                 ? R"(stroke-width="1")"
+                                                 : R"(stroke-width="2.6")");
     return svg;
 }
 
@@ -42,6 +45,8 @@ QImage DrawnLook::symbol(const QString& name, QSize pixels, const QColor& tint,
         qWarning("There is no symbol named \"%s\".", qUtf8Printable(name));
         return {};
     }
+    const QSize own = renderer.defaultSize();
+    pixels.setWidth(std::max(pixels.width(), pixels.height() * own.width() / own.height()));
     QImage image = drawn(renderer, pixels, QRectF(QPointF(), pixels));
     QPainter painter(&image);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
@@ -53,7 +58,10 @@ QImage DrawnLook::picture(SystemPicture which, QSize pixels) const {
     if (pixels.isEmpty())
         return {};
     if (which == SystemPicture::applicationIcon) {
-        QSvgRenderer icon(u":/velmora/icon/velmora.svg"_s);
+        // Small ones have a drawing of their own, without the lines that would blur.
+        const int side = std::min(pixels.width(), pixels.height());
+        QSvgRenderer icon(side <= 32 ? u":/velmora/icon/velmora-small.svg"_s
+                                     : u":/velmora/icon/velmora.svg"_s);
         return drawn(icon, pixels, QRectF(QPointF(), pixels));
     }
     QSvgRenderer pointer(u":/velmora/icon/arrow_pointer.svg"_s);

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 /// Inter.
 class DrawnLook : public NativeLook {
   public:
-    /// A light symbol is the same drawing with thinner strokes; filled shapes stay as they are.
+    /// The weight is that of the strokes; filled shapes stay as they are.
     [[nodiscard]] QImage symbol(const QString& name, QSize pixels, const QColor& tint,
                                 SymbolWeight weight) const override;
     [[nodiscard]] QImage picture(SystemPicture which, QSize pixels) const override;

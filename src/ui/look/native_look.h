@@ -9,7 +9,7 @@
 
 namespace velmora {
 
-enum class SymbolWeight { regular, light };
+enum class SymbolWeight { light, regular, bold };
 
 /// A picture in colours of its own.
 enum class SystemPicture { applicationIcon, arrowPointer };

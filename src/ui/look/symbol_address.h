@@ -16,8 +16,9 @@ class SymbolAddress final : public QObject {
   public:
     using QObject::QObject;
 
-    /// `image://symbol/<name>/<weight>/<rrggbbaa>`; empty for an empty name.
-    Q_INVOKABLE static QUrl of(const QString& name, const QColor& tint, bool light);
+    /// `image://symbol/<name>/<weight>/<rrggbbaa>`; empty for an empty name. The weight is "light",
+    /// "regular" or "bold".
+    Q_INVOKABLE static QUrl of(const QString& name, const QColor& tint, const QString& weight);
 };
 
 }  // namespace velmora

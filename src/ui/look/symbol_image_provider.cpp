@@ -18,6 +18,8 @@ std::optional<SymbolWeight> weightFrom(const QString& text) {
         return SymbolWeight::regular;
     if (text == "light"_L1)
         return SymbolWeight::light;
+    if (text == "bold"_L1)
+        return SymbolWeight::bold;
     return std::nullopt;
 }
 

@@ -53,6 +53,7 @@ Item {
 
         BodyText {
             width: time.x - words.x - 8
+            horizontalAlignment: Text.AlignLeft
             text: row.entry.name
             Accessible.ignored: true
         }

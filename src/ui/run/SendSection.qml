@@ -42,6 +42,7 @@ ColumnLayout {
             id: face
             font: line.font
         }
+        // While the run stops they stay, faded.
         RunProgress {
             id: bar
             width: parent.width
@@ -62,7 +63,7 @@ ColumnLayout {
             x: mark.visible ? mark.width + 5 : 0
             y: bar.height + section.spacing
             width: parent.width - x
-            visible: section.going
+            opacity: bar.opacity
         }
     }
     RowLayout {

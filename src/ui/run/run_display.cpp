@@ -63,7 +63,8 @@ ActivityEntry activityEntry(const LogEntry& entry) {
         .name = entry.name,
         .symbol = u"exclamationmark.triangle.fill"_s,
         .tone = Tone::orange,
-        .details = joined({QString(entry.status).replace(u'_', u' '), entry.service, entry.detail}),
+        .details = withWholeNumbers(
+            joined({QString(entry.status).replace(u'_', u' '), entry.service, entry.detail})),
         .clockTime = QLocale().toString(localTime(entry.time).time(), QLocale::ShortFormat)};
     if (entry.status == statusSent) {
         shown.symbol = u"checkmark.circle.fill"_s;

@@ -37,7 +37,9 @@ Item {
     SymbolIcon {
         id: icon
         anchors.verticalCenter: parent.verticalCenter
-        x: 18
+        // Several persons side by side are wider than high.
+        x: 13
+        width: 28
         name: row.symbol
         size: 18
         color: row.lit ? Theme.overAccent : Theme.accentText
@@ -46,7 +48,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         anchors.left: icon.right
         anchors.right: number.left
-        anchors.leftMargin: 7
+        anchors.leftMargin: 2
         anchors.rightMargin: Theme.gap
         text: row.name
         color: row.lit ? Theme.overAccent : Theme.primary

@@ -30,6 +30,7 @@ Item {
 
         SymbolIcon {
             name: banners.banner.symbol
+            size: 18
             color: banners.tint
         }
         BodyText {

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "ui/first_run/full_disk_access_timeline.h"
+#include "ui/look/application_icon.h"
 #include "ui/look/drawn_look.h"
 #include "ui/look/fixed_digits.h"
 #include "ui/look/symbol_image_provider.h"
@@ -40,8 +41,8 @@ double coverage(const QImage& image) {
     return std::accumulate(all.begin(), all.end(), 0.0, add);
 }
 
-// Catches a drawing without content, in its own color or cut off, and a light one as thick as
-// usual.
+// Catches a drawing without content, in its own color or cut off, a light one as thick as usual and
+// a tick that is not bolder.
 TEST(Symbols, areTintedOnTheirGridAndThinnerWhenLight) {
     const DrawnLook source;
     const QStringList files = QDir(u":/velmora/symbols"_s).entryList();
@@ -55,11 +56,15 @@ TEST(Symbols, areTintedOnTheirGridAndThinnerWhenLight) {
         const QImage large = source.symbol(name, {96, 96}, tint, SymbolWeight::regular);
         for (const QRgb pixel : pixels(large))
             EXPECT_TRUE(qAlpha(pixel) < 255 || pixel == tint.rgba()) << std::hex << pixel;
-        EXPECT_NEAR(coverage(large), coverage(large.copy(7, 7, 82, 82)), 1e-6);
+        EXPECT_NEAR(coverage(large), coverage(large.copy(7, 7, large.width() - 14, 82)), 1e-6);
         const QImage light = source.symbol(name, {96, 96}, tint, SymbolWeight::light);
         const double ratio = coverage(light) / coverage(large);
         EXPECT_TRUE(name.endsWith(u".fill") ? ratio == 1 : ratio < 0.85) << ratio;
     }
+    const auto tick = [&](SymbolWeight weight) {
+        return coverage(source.symbol(u"checkmark"_s, {14, 14}, tint, weight));
+    };
+    EXPECT_GT(tick(SymbolWeight::bold), 1.5 * tick(SymbolWeight::regular));
 }
 
 // Catches a symbol that is stretched, in another color, or taken from a wrong address.
@@ -74,16 +79,24 @@ TEST(Symbols, theProviderReadsItsAddressAndRefusesAnyOther) {
     EXPECT_EQ(pixels(wide.copy(22, 15, 1, 1)).front(), 0x80123456U);
     EXPECT_EQ(coverage(wide.copy(0, 0, 15, 30)), 0) << "stretched";
     EXPECT_EQ(request("iphone/light/000000ff", {0, 42}).size(), QSize(42, 42));
+    EXPECT_EQ(request("person.3/regular/000000ff", {18, 18}).size(), QSize(24, 18));
     for (const char* id : {"no.such.symbol/regular/000000ff", "iphone/heavy/000000ff", "iphone"})
         EXPECT_TRUE(request(id, {16, 16}).isNull()) << id;
 }
 
-// Catches a picture that is stretched, off its place or of another scale, and one without a size.
+// Catches a picture that is stretched, off its place or of another scale, one without a size, and a
+// small icon with the margin and the fine lines of the large.
 TEST(Pictures, anIconIsCentredAndAPointerHasItsTipInTheCorner) {
     SymbolImageProvider provider(std::make_unique<DrawnLook>());
     const QImage icon = provider.requestImage(u"applicationIcon"_s, nullptr, {80, 40});
     EXPECT_EQ(coverage(icon.copy(0, 0, 20, 40)) + coverage(icon.copy(60, 0, 20, 40)), 0);
     EXPECT_GT(coverage(icon.copy(20, 0, 40, 40)), 900);
+    const QIcon icons = applicationIcon();
+    const auto reach = [&](int side) {
+        return coverage(icons.pixmap(side).toImage().copy(0, side / 2, side / 12, 1));
+    };
+    EXPECT_GT(reach(32), 0.9);
+    EXPECT_EQ(reach(33), 0);
     const QImage arrow = provider.requestImage(u"arrowPointer"_s, nullptr, {64, 64});
     EXPECT_NEAR(coverage(arrow), coverage(arrow.copy(0, 0, 28, 40)), 1e-6);
     EXPECT_GT(coverage(arrow.copy(0, 0, 4, 4)), 12) << "the tip is elsewhere";
@@ -146,17 +159,21 @@ TEST(Theme, TextStandsOutOnEverything) {
         QGuiApplication::setPalette(palette);
         QCoreApplication::processEvents();
         ASSERT_EQ(theme->property("dark").toBool(), dark);
-        const QColor window = color("windowBackground");
-        const QColor focused = over(window, color("quaternary"), color("quaternary").alphaF());
-        for (const QColor& ground : {window, focused, color("textBackground")}) {
+        const QColor content = color("textBackground");
+        const QColor focused = over(content, color("quaternary"), color("quaternary").alphaF());
+        for (const QColor& ground : {content, focused}) {
             for (const Tone tone :
                  {Tone::primary, Tone::secondary, Tone::tertiary, Tone::accent, Tone::green}) {
                 expectContrast(toned(tone, false), ground, 1);
                 expectContrast(toned(tone, true), ground, faintOpacity);
             }
         }
+        const QColor window = color("windowBackground");
+        expectContrast(color("accentText"), window, 1);
+        expectContrast(color("secondary"),
+                       over(window, color("quaternary"), color("quaternary").alphaF()), 1);
         for (const char* ground : {"sidebarBackground", "sheetBackground", "groupBackground",
-                                   "textBackground", "menuBackground"})
+                                   "windowBackground", "menuBackground"})
             for (const char* ink : {"primary", "secondary"})
                 expectContrast(color(ink), color(ground), 1);
         for (const char* ground : {"windowBackground", "textBackground"})

@@ -83,6 +83,7 @@ TEST_F(Recipients, eachPersonSaysWhatTheyAre) {
     EXPECT_EQ(entry(3).thread.text, u"No thread yet"_s);
     EXPECT_EQ(entry(4).thread.text + entry(4).thread.symbol, QString());
     EXPECT_EQ(entry(1).issue.symbolTone, Tone::orange);
+    EXPECT_TRUE(entry(1).issue.text.contains(u"(212)\u00A0555-"_s)) << "a number that breaks";
     EXPECT_EQ(entry(3).issue.symbol, u"info.circle"_s);
     EXPECT_EQ(entry(5).spoken, u"(no name), can't be texted, No usable phone number."_s);
 

@@ -41,20 +41,21 @@ TEST_F(RunModels, TheNewestLineComesFirstAndTheOthersStay) {
     EXPECT_EQ(resets.size(), 0) << "the same log read again";
 }
 
-// Catches a status shown as another one, and details with gaps or underscores.
+// Catches a status shown as another one, and details with gaps, underscores or numbers that break.
 TEST(RunDisplay, AnEntryShowsItsStatusDetailsAndTime) {
     LogEntry entry;
     entry.time = Moment{763657200.0};
     entry.status = u"sent_unverified"_s;
     entry.service = u"SMS"_s;
-    entry.detail = u"Check the thread."_s;
+    entry.detail = u"Check (212) 555-0101."_s;
     const Language american(u"en_US"_s);
     const ActivityEntry shown = activityEntry(entry);
     EXPECT_EQ(shown.tone, Tone::orange);
-    EXPECT_EQ(shown.details, u"sent unverified \u00B7 SMS \u00B7 Check the thread."_s);
+    EXPECT_EQ(shown.details, u"sent unverified \u00B7 SMS \u00B7 Check (212)\u00A0555-0101."_s);
     EXPECT_EQ(shown.clockTime.simplified(), u"11:00 AM"_s);
     entry.status.clear();
-    EXPECT_EQ(activityEntry(entry).details, u"SMS \u00B7 Check the thread."_s);
+    entry.detail.clear();
+    EXPECT_EQ(activityEntry(entry).details, u"SMS"_s);
 }
 
 // Catches rounding instead of cutting, and a delay that no whole number can hold.

@@ -216,8 +216,10 @@ TEST_F(Hands, OnlyWhatIsMeantIsChosen) {
     }
     model->openSettings();
     user.settle();
-    // So many that another one than the chosen lies under the pointer.
-    model->numbers = {{u"+1"_s, 9}, {u"+2"_s, 8}, {u"+3"_s, 7}, {u"+4"_s, 6}, {myLine, 5}};
+    // So many that another one than the chosen lies under the pointer, and one that the window is
+    // hardly wide enough for.
+    model->numbers = {{u"+1"_s, 9}, {u"+2"_s, 8}, {u"+3"_s, 7},
+                      {u"+4"_s, 6}, {myLine, 5},  {u"+4"_s.repeated(24), 4}};
     user.settle();
     QWindow* settings = WindowDriver::windowTitled(u"Settings"_s);
     const QPoint picker = user.place(u"Send from"_s, QAccessible::ComboBox, settings);

@@ -65,14 +65,14 @@ TEST_F(WindowModels, ARunIsClosedOnlyByTheEndOfTheSession) {
     model->startRun();
     MainWindowModel window(*model);
     const QSignalSpy attention(&window, &MainWindowModel::attentionWanted);
-    model->alert = u"Something else."_s;
+    model->alert = u"Call (212) 555-0101."_s;
     EXPECT_FALSE(window.mayClose());
     EXPECT_EQ(window.alert().title, u"A run is still going."_s);
     EXPECT_EQ(window.alert().message,
               u"3 people would not be texted. Send again under the same run name, and it goes on "
               "with them."_s);
     window.dismissAlert();
-    EXPECT_EQ(window.alert().message, u"Something else."_s);
+    EXPECT_EQ(window.alert().message, u"Call (212)\u00A0555-0101."_s);
     window.dismissAlert();
     EXPECT_FALSE(window.alertShown());
     // What the desktop announces; nobody looks at what comes with it.

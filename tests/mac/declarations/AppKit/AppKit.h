@@ -33,7 +33,7 @@ enum NSApplicationActivationOptions : NSUInteger { NSApplicationActivateAllWindo
            completionHandler:(void (^)(NSRunningApplication *application, NSError *error))handler;
 @end
 
-extern const NSFontWeight NSFontWeightLight, NSFontWeightRegular;
+extern const NSFontWeight NSFontWeightLight, NSFontWeightRegular, NSFontWeightBold;
 @interface NSImageSymbolConfiguration : NSObject
 + (instancetype)configurationWithPointSize:(CGFloat)size weight:(NSFontWeight)weight;
 @end
