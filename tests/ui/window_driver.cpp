@@ -9,7 +9,6 @@
 using namespace Qt::StringLiterals;
 
 namespace velmora {
-
 namespace {
 
 QStringList& heard() {
@@ -117,6 +116,14 @@ bool WindowDriver::until(const std::function<bool()>& condition, int seconds) {
     return condition();
 }
 
+bool WindowDriver::appears(const QString& name) {
+    return until([&] { return shows(name); });
+}
+
+bool WindowDriver::vanishes(const QString& name) {
+    return until([&] { return !shows(name); });
+}
+
 bool WindowDriver::shows(const QString& name, QWindow* in) {
     auto* root = QAccessible::queryAccessibleInterface(in == nullptr ? &window() : in);
     return findBelow(root, name, QAccessible::NoRole) != nullptr;
@@ -183,6 +190,11 @@ void WindowDriver::type(const QString& text) {
 void WindowDriver::key(int key, Qt::KeyboardModifiers modifiers) {
     QTest::keyClick(QGuiApplication::focusWindow(), static_cast<Qt::Key>(key), modifiers);
     settle();
+}
+
+void WindowDriver::keys(std::initializer_list<QKeyCombination> keys) {
+    for (const QKeyCombination each : keys)
+        key(each.key(), each.keyboardModifiers());
 }
 
 QString WindowDriver::focused() const {

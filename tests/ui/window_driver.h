@@ -29,6 +29,9 @@ class WindowDriver {
     /// Lets things happen until `condition` holds; false when it does not in `seconds` of the
     /// computer's own time.
     bool until(const std::function<bool()>& condition, int seconds = 10);
+    /// Lets things happen until something of that name is on the screen, or nothing is any more.
+    bool appears(const QString& name);
+    bool vanishes(const QString& name);
 
     /// Whether something of that name is on the screen, in the main window or `in` another.
     [[nodiscard]] bool shows(const QString& name, QWindow* in = nullptr);
@@ -51,6 +54,8 @@ class WindowDriver {
     /// Types ASCII characters.
     void type(const QString& text);
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// Presses one key after the other.
+    void keys(std::initializer_list<QKeyCombination> keys);
     /// The name of what has the keyboard in the focused window, or of the nearest thing around it
     /// that has a name.
     [[nodiscard]] QString focused() const;

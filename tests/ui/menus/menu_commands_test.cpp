@@ -4,7 +4,6 @@
 #include "ui/window/presentation.h"
 
 namespace velmora {
-
 namespace {
 
 using MenuCommandsTest = AppHome;
@@ -54,5 +53,4 @@ TEST_F(MenuCommandsTest, OffersFollowWhatIsOnTheScreen) {
 }
 
 }  // namespace
-
 }  // namespace velmora
