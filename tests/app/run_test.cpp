@@ -18,26 +18,10 @@ class Run : public AppHome {
         world.clock.advance(0);
     }
 
-    /// Everyone in the log of a run with what became of them and the line that it went out on.
-    [[nodiscard]] QStringList logged(const QString& batch) const {
-        SupportFolder folder(home.applicationSupport());
-        QStringList all;
-        for (const LogEntry& each : SendLog(folder, world.clock).load(batch))
-            all.append(each.name + u' ' + each.status + u' ' + each.line);
-        return all;
-    }
-
-    /// Whom Messages was given which text, in order.
-    [[nodiscard]] QStringList textsInMessages() const {
-        auto history = MessagesDB::open(home.historyPath()).value();
-        const auto rows = history.query(
-            u"SELECT id || ' ' || text FROM message JOIN handle ON handle.ROWID = handle_id"
-            " WHERE text != '' ORDER BY message.ROWID"_s,
-            {});
-        QStringList all;
-        for (const auto& row : rows.value())
-            all.append(std::get<QString>(row.at(0)));
-        return all;
+    /// Sends to everyone checked, to the end of the run.
+    void send() {
+        model->startRun();
+        EXPECT_TRUE(world.clock.runUntilIdle());
     }
 };
 
@@ -47,29 +31,33 @@ TEST_F(Run, GoesFromTheListToTheLogAndNeverTextsAnyoneTwice) {
     ready().setNote(u"bob"_s, u"see you"_s);
     model->setNote(u"joanne"_s, u"and Max"_s);
     EXPECT_EQ(model->exampleRecipient()->id, u"ann"_s);
-    const QString first = model->batchName;
     request();
     EXPECT_TRUE(model->confirmingRun);
     model->confirmRun();
-    EXPECT_FALSE(model->confirmingRun);
-    EXPECT_TRUE(model->runner().isActive());
+    EXPECT_TRUE(model->runner().isActive() && !model->confirmingRun);
     EXPECT_TRUE(world.clock.runUntilIdle());
     model->setSelection({u"ann"_s, u"joanne"_s});
-    model->startRun();
-    EXPECT_TRUE(world.clock.runUntilIdle());
-    EXPECT_EQ(logged(first),
-              (QStringList{u"Ann Lee sent "_s + myLine, u"Bob Stone sent "_s + myLine,
-                           u"Joanne sent "_s + myLine}));
-    EXPECT_EQ(textsInMessages(),
-              (QStringList{u"+12125550101 Hey Ann!"_s, u"+12125550102 Hi Bob see you"_s,
-                           u"+12125550103 Hey Joanne! and Max"_s}));
+    send();
+    model->loadList();
+    QStringList logged;
+    for (const LogEntry& each : model->runner().log())
+        logged.append(each.name + u' ' + each.status + u' ' + each.line);
+    EXPECT_EQ(logged.join(u", "_s),
+              u"Ann Lee sent %1, Bob Stone sent %1, Joanne sent %1"_s.arg(myLine));
+    auto history = MessagesDB::open(home.historyPath()).value();
+    const auto texts = history.query(
+        u"SELECT group_concat(id || ' ' || text, ', ') FROM message JOIN handle"
+        " ON handle.ROWID = handle_id WHERE text != ''"_s,
+        {});
+    EXPECT_EQ(std::get<QString>(texts.value().at(0).at(0)),
+              u"+12125550101 Hey Ann!, +12125550102 Hi Bob see you, "
+              "+12125550103 Hey Joanne! and Max"_s);
 
     // As many under the other name, but not the same people.
     for (const auto& [name, id] : {std::pair(u"Bob's"_s, u"bob"_s), {u"Ann's"_s, u"ann"_s}}) {
         model->batchName = name;
         model->setSelection({id});
-        model->startRun();
-        EXPECT_TRUE(world.clock.runUntilIdle());
+        send();
     }
     model->setSelection({u"ann"_s, u"bob"_s});
     model->loadList();
@@ -91,27 +79,23 @@ TEST_F(Run, ALogThatDoesNotTellWhoWasTextedIsToldOnce) {
     SupportFolder folder(home.applicationSupport());
     const QString path = SendLog(folder, world.clock).logFile(u"Party"_s);
     writeTestFile(path, "time;batch;name;phone\n2025;Party;Ann;+12125550101\n");
-    model->batchName = u"Party"_s;
-    model->confirmRun();
-    EXPECT_FALSE(model->runner().isActive());
-    EXPECT_EQ(model->alert.value(), u"Velmora can't tell from the log "_s + path +
-                                        u" who was already texted in the run \"Party\". Mend the "
-                                        "file or choose another run name, or they may be texted "
-                                        "again."_s);
-    model->alert = std::nullopt;
-    model->loadList();
-    EXPECT_FALSE(model->alert.value());
-    model->confirmRun();
-    EXPECT_TRUE(model->runner().isActive()) << "who knows better may send";
-    EXPECT_TRUE(world.clock.runUntilIdle());
-
+    const auto alertOfRun = [this](const QString& name) {
+        model->alert = std::nullopt;
+        model->batchName = name;
+        model->confirmRun();
+        EXPECT_NE(model->runner().isActive(), model->alert.value().has_value());
+        EXPECT_TRUE(world.clock.runUntilIdle());
+        return model->alert.value();
+    };
+    EXPECT_EQ(
+        alertOfRun(u"Party"_s),
+        u"Velmora can't tell from the log %1 who was already texted in the run \"Party\". Mend "
+        "the file or choose another run name, or they may be texted again."_s.arg(path));
+    EXPECT_FALSE(alertOfRun(u"Party"_s)) << "who knows better may send";
     model->batchName = u"Later"_s;
     model->loadList();
-    EXPECT_FALSE(model->alert.value());
     writeTestFile(SendLog(folder, world.clock).logFile(u"Later"_s), "time;batch\n");
-    model->confirmRun();
-    EXPECT_FALSE(model->runner().isActive()) << "changed since the list was loaded";
-    EXPECT_TRUE(model->alert.value());
+    EXPECT_TRUE(alertOfRun(u"Later"_s)) << "changed since the list was loaded";
 }
 
 // Catches a run that starts where it must not or before the terms are accepted, a refusal that
