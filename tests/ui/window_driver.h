@@ -49,7 +49,9 @@ class WindowDriver {
                              QWindow* in = nullptr);
     /// Its middle.
     [[nodiscard]] QPoint place(const QString& name, QAccessible::Role role = QAccessible::NoRole,
-                               QWindow* in = nullptr);
+                               QWindow* in = nullptr) {
+        return area(name, role, in).center();
+    }
     void clickAt(QPoint place, QWindow* in = nullptr);
     /// Types ASCII characters.
     void type(const QString& text);
@@ -63,6 +65,8 @@ class WindowDriver {
     [[nodiscard]] static QWindow* windowTitled(const QString& title);
 
   private:
+    [[nodiscard]] QWindow* orMain(QWindow* other) { return other ? other : &window(); }
+
     std::function<void()> passTime_;
     QtMessageHandler handlerBefore_;
     std::unique_ptr<MainWindow> main_;

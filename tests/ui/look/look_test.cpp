@@ -1,10 +1,11 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <QDir>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <array>
 #include <cmath>
 #include <memory>
 #include <numeric>
@@ -22,7 +23,6 @@ using namespace Qt::StringLiterals;
 void qml_register_types_Velmora();  // NOLINT(readability-identifier-naming): the toolkit's name
 
 namespace velmora {
-
 namespace {
 
 const QColor tint(0x12, 0x34, 0x56);
@@ -172,24 +172,22 @@ TEST(Theme, TextStandsOutOnEverything) {
 
 // Catches a number that changes its width while it counts.
 TEST(FixedDigits, TakeTheSameWidth) {
-    FixedDigits narrow;
-    FixedDigits wide;
-    narrow.setPixelSize(12);
-    wide.setPixelSize(12);
-    narrow.setText(u"1:11 AM"_s);
-    wide.setText(u"8:40 AM"_s);
-    EXPECT_GT(narrow.implicitWidth(), 0);
-    EXPECT_EQ(narrow.implicitWidth(), wide.implicitWidth());
-    wide.setPixelSize(24);
-    EXPECT_GT(wide.implicitWidth(), narrow.implicitWidth() * 1.5);
+    FixedDigits digits;
+    const auto width = [&digits](const QString& text, int size) {
+        digits.setPixelSize(size);
+        digits.setText(text);
+        return digits.implicitWidth();
+    };
+    const double narrow = width(u"1:11 AM"_s, 12);
+    EXPECT_GT(narrow, 0);
+    EXPECT_EQ(narrow, width(u"8:40 AM"_s, 12));
+    EXPECT_GT(width(u"8:40 AM"_s, 24), narrow * 1.5);
 }
 
 // Catches a drawing that jumps in or out, a pointer that does not end on the switch or presses it
 // at another moment than the switch turns, and a place outside the loop for an early date.
 TEST(FullDiskAccessTimeline, ThePointerGlidesToTheSwitchAndTurnsIt) {
-    struct Frame {
-        double time, opacity, x, y, scale, switchedOn;
-    };
+    using Frame = std::array<double, 6>;  // time, opacity, x, y and scale of the pointer, switch
     FullDiskAccessTimeline timeline;
     for (const Frame& frame : {Frame{0, 0, 250, 180, 1, 0},
                                {0.15, 0.5, 250, 180, 1, 0},
@@ -199,13 +197,10 @@ TEST(FullDiskAccessTimeline, ThePointerGlidesToTheSwitchAndTurnsIt) {
                                {6.3, 1, 273, 90, 1, 1},
                                {6.6, 0.5, 273, 90, 1, 1},
                                {6.95, 0, 273, 90, 1, 1}}) {
-        SCOPED_TRACE(frame.time);
-        timeline.setTime(frame.time);
-        EXPECT_NEAR(timeline.opacity(), frame.opacity, 1e-9);
-        EXPECT_NEAR(timeline.pointerX(), frame.x, 1e-9);
-        EXPECT_NEAR(timeline.pointerY(), frame.y, 1e-9);
-        EXPECT_EQ(timeline.pointerScale(), frame.scale);
-        EXPECT_NEAR(timeline.switchedOn(), frame.switchedOn, 1e-9);
+        timeline.setTime(frame[0]);
+        const Frame shown{timeline.time(),     timeline.opacity(),      timeline.pointerX(),
+                          timeline.pointerY(), timeline.pointerScale(), timeline.switchedOn()};
+        EXPECT_THAT(shown, testing::Pointwise(testing::DoubleNear(1e-9), frame));
     }
     timeline.setStill(true);
     EXPECT_EQ(timeline.opacity() * timeline.switchedOn(), 1);
@@ -214,5 +209,4 @@ TEST(FullDiskAccessTimeline, ThePointerGlidesToTheSwitchAndTurnsIt) {
 }
 
 }  // namespace
-
 }  // namespace velmora

@@ -1,5 +1,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
+#include <ranges>
 
 #include "ui/window/window_home.h"
 
@@ -37,10 +38,9 @@ TEST_F(WindowTest, SearchLimitsWhatIsSelected) {
 // Catches a list that opens where the one before it stood, its first people out of sight.
 TEST_F(WindowTest, AnotherListOpensAtItsBeginning) {
     std::vector<QByteArray> people;
-    for (int number = 100; number < 140; ++number) {
-        const QString digits = QString::number(number);
-        people.push_back(person(digits, u"P"_s + digits, {}, u"212 555 0"_s + digits));
-    }
+    for (const int number : std::views::iota(100, 140))
+        people.push_back(
+            person(u"%1"_s.arg(number), u"P%1"_s.arg(number), {}, u"212 555 0%1"_s.arg(number)));
     friends(people);
     withFriends();
     WindowDriver& user = show();
