@@ -6,19 +6,25 @@ namespace {
 using Startup = AppHome;
 
 // Catches a start that leaves a new user without a list, a run name or their only number, or that
-// forgets one of them at the next; settings that are lost without a word, and names read where
-// they must not be.
+// forgets one of them at the next; settings lost without a word, written needlessly or, where an
+// observer stores too, in part; and names read where they must not be.
 TEST_F(Startup, ChoosesWhatIsObviousAndKeepsIt) {
-    open();
+    open().setConfig(model->config());
     EXPECT_FALSE(QFile::exists(settingsPath()));
     started();
     EXPECT_EQ(stored().selectedGroupID, allContactsID);
     EXPECT_EQ(stored().senderNumber, myLine);
     EXPECT_EQ(model->batchName.value(), u"All Contacts 2025-03-14"_s);
     EXPECT_EQ(model->recipients().size(), 3);
+    QObject::connect(model.get(), &AppModel::configChanged, model.get(), [this] {
+        if (model->config().maxFailures != 7)
+            model->editConfig([](AppConfig& config) { config.maxFailures = 7; });
+    });
     model->editConfig([](AppConfig& config) { config.selectedGroupID = u"deleted"_s; });
+    EXPECT_EQ(stored(), model->config());
     started();
     EXPECT_EQ(stored().selectedGroupID, allContactsID);
+    EXPECT_EQ(stored().maxFailures, 7);
 
     writeTestFile(settingsPath(), "{ torn");
     started();
@@ -29,9 +35,8 @@ TEST_F(Startup, ChoosesWhatIsObviousAndKeepsIt) {
 
     home.writeContacts(R"({"access": "denied", "contacts": [{"identifier": "ann"}]})");
     started();
-    EXPECT_FALSE(model->contactsAllowed);
+    EXPECT_FALSE(model->contactsAllowed || model->alert.value());
     EXPECT_TRUE(model->recipients().empty() && model->batchName.value().isEmpty());
-    EXPECT_EQ(model->alert.value(), std::nullopt);
 }
 
 // Catches a number picked for the user among several, a chosen one replaced and an alias twice;
@@ -43,8 +48,7 @@ TEST_F(Startup, NumbersAreMergedAndChosenOnlyWhenThereIsNoChoice) {
     started().acceptTerms();
     const std::vector<NumberInfo> numbers{{myLine, 2}, {myOtherLine, 1}, {u"+1999"_s, 0}};
     EXPECT_EQ(model->numbers.value(), numbers);
-    EXPECT_EQ(model->config().senderNumber, QString());
-    EXPECT_TRUE(model->needsSenderSetup());
+    EXPECT_TRUE(model->config().senderNumber.isEmpty() && model->needsSenderSetup());
     model->setSenderNumber(u"+10000000000"_s);
     model->refreshNumbers();
     EXPECT_EQ(stored().senderNumber, u"+10000000000"_s);
@@ -55,28 +59,14 @@ TEST_F(Startup, NumbersAreMergedAndChosenOnlyWhenThereIsNoChoice) {
     ASSERT_TRUE(QFile::rename(home.historyPath(), away));
     world.clock.advance(60);
     model->refreshNumbers();
-    EXPECT_TRUE(model->needsFDAHelp() && model->numbers.value().empty());
+    EXPECT_TRUE(!model->dbOK && model->numbers.value().empty());
     EXPECT_TRUE(model->dbError.value().startsWith(u"Couldn't open Messages history: "));
     EXPECT_EQ(model->numbersCheckedAt.value(), checkedAt);
     model->showingFDAHelp = true;
     ASSERT_TRUE(QFile::rename(away, home.historyPath()));
     model->refreshNumbers();
-    EXPECT_FALSE(model->needsFDAHelp());
-    EXPECT_EQ(model->dbError.value(), QString());
+    EXPECT_TRUE(model->dbError.value().isEmpty() && !model->needsFDAHelp());
     EXPECT_GT(model->numbersCheckedAt.value(), checkedAt);
-}
-
-// Catches needless writes, and a file that holds less than the model when an observer stores too.
-TEST_F(Startup, SettingsAreSavedWhenTheyDifferAndTheNewestWins) {
-    open().setConfig(model->config());
-    EXPECT_FALSE(QFile::exists(settingsPath()));
-    QObject::connect(model.get(), &AppModel::configChanged, model.get(), [this] {
-        if (model->config().maxFailures != 7)
-            model->editConfig([](AppConfig& config) { config.maxFailures = 7; });
-    });
-    model->editConfig([](AppConfig& config) { config.delayMin = 5; });
-    EXPECT_EQ(stored(), model->config());
-    EXPECT_EQ(stored().maxFailures * stored().delayMin, 35);
 }
 
 // Catches pickers that show another time than is stored, most of all when the clocks change.
@@ -127,9 +117,8 @@ TEST_F(List, EveryoneIsCheckedInTheOrderOfTheAddressBook) {
     EXPECT_TRUE(recipient(u"zoe"_s).usable && !recipient(u"abe"_s).usable);
 
     model->setSenderNumber(myOtherLine);
-    EXPECT_EQ(recipient(u"ann"_s).issue,
-              u"Your thread with them is on (212) 555-9999. Text them once by hand from "
-              "(212) 555-8888 first."_s);
+    const QString otherLine = recipient(u"ann"_s).issue.value_or(QString());
+    EXPECT_TRUE(otherLine.startsWith(u"Your thread with them is on (212) 555-9999. Text them"));
     model->setSenderNumber(QString());
     EXPECT_EQ(recipient(u"ann"_s).issue, std::nullopt);
     changeHistory(home.historyPath(), "DROP TABLE handle");

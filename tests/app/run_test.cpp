@@ -115,17 +115,15 @@ TEST_F(Run, IsRefusedForTheFirstReasonThatHolds) {
     const std::vector<std::pair<QString, std::function<void()>>> reasons = {
         {u"Choose a list first."_s, [&] { model->selectGroup(u"friends"_s); }},
         {u"Choose the number you send from."_s, [&] { model->setSenderNumber(myLine); }},
-        {u"Turn on Full Disk Access for Velmora first, so it can check which line each text uses."_s,
-         [&] { model->dbOK = true; }},
+        {u"Turn on Full Disk Access"_s, [&] { model->dbOK = true; }},
         {u"The message is empty."_s, [&] { model->setCurrentTemplate(u"Hi"_s); }},
         {u"Select at least one person."_s, [&] { model->setSelection({u"ann"_s, u"bob"_s}); }},
-        {u"You've selected 2 people, and one run sends at most 1. Uncheck some, or send the rest "
-         u"in a "
-         "second run with the same run name."_s,
-         [&] { model->setSelected(u"bob"_s, false); }}};
+        {u"You've selected 2 people, and one run sends at most 1."_s,
+         [&] { model->setSelection({u"ann"_s}); }}};
     for (const auto& [refusal, mend] : reasons) {
         request();
-        EXPECT_EQ(model->alert.value(), refusal);
+        EXPECT_TRUE(model->alert.value().value_or(QString()).startsWith(refusal))
+            << refusal.toStdString();
         EXPECT_FALSE(model->confirmingRun);
         mend();
     }
@@ -180,25 +178,22 @@ TEST_F(Run, TestSendSaysWhichLineItUsed) {
         return model->testResult.value();
     };
     EXPECT_EQ(result(u"555 1234"_s), u"Enter a valid phone number."_s);
-    EXPECT_EQ(result(),
-              u"Sent by iMessage from (212) 555-9999. That matches your sending number."_s);
+    const QString sent = u"Sent by iMessage from (212) 555-9999. "_s;
+    EXPECT_EQ(result(), sent + u"That matches your sending number."_s);
     model->setSenderNumber(myOtherLine);
-    EXPECT_TRUE(result().endsWith(u"That is NOT your sending number."));
+    EXPECT_EQ(result(), sent + u"That is NOT your sending number."_s);
     model->setSenderNumber(QString());
-    EXPECT_TRUE(result().endsWith(u"That matches your sending number."));
+    EXPECT_EQ(result(), sent + u"That matches your sending number."_s);
     model->dbOK = false;
     EXPECT_EQ(result(), u"Sent. Turn on Full Disk Access to see which line it used."_s);
     model->dbOK = true;
-    for (const auto& [behaviour, sentence] : std::map<QByteArray, QString>{
-             {R"({"error": 22})",
-              u"Messages reported error 22. That number may not have iMessage."_s},
-             {R"({"recordAfter": null})",
-              u"Sent, but Messages hasn't recorded it yet. Check the thread."_s},
-             {R"({"line": ""})",
-              u"Sent by iMessage from an unknown line. That matches your sending number."_s},
+    for (const auto& [behaviour, word] : std::map<QByteArray, QString>{
+             {R"({"error": 22})", u"Messages reported error 22."_s},
+             {R"({"recordAfter": null})", u"Sent, but Messages hasn't recorded it yet."_s},
+             {R"({"line": ""})", u"from an unknown line. That matches"_s},
              {R"({"scriptError": "No."})", u"No."_s}}) {
         home.writeMessages(messagesOnLine(myLine, {{u"+12125550101"_s, behaviour}}));
-        EXPECT_EQ(result(), sentence);
+        EXPECT_TRUE(result().contains(word)) << word.toStdString();
     }
 }
 

@@ -62,29 +62,28 @@ TEST(Symbols, areTintedOnTheirGridAndThinnerWhenLight) {
     }
 }
 
-// Catches a symbol that is stretched, in another color, or taken from a wrong address.
-TEST(Symbols, theProviderReadsItsAddressAndRefusesAnyOther) {
+// Catches a symbol or picture that is stretched, off its place, in another colour or of another
+// scale, and one from a wrong address or without a size.
+TEST(Symbols, TheProviderReadsItsAddressAndRefusesAnyOther) {
     SymbolImageProvider provider(std::make_unique<DrawnLook>());
-    QSize size;
     const auto request = [&](const char* id, QSize requested) {
-        return provider.requestImage(QString::fromLatin1(id), &size, requested);
+        QSize size;
+        const QImage image = provider.requestImage(QString::fromLatin1(id), &size, requested);
+        EXPECT_EQ(size, image.size());
+        return image;
     };
     const QImage wide = request("xmark.circle.fill/regular/12345680", {60, 30});
-    EXPECT_EQ(size, QSize(60, 30));
+    EXPECT_EQ(wide.size(), QSize(60, 30));
     EXPECT_EQ(pixels(wide.copy(22, 15, 1, 1)).front(), 0x80123456U);
     EXPECT_EQ(coverage(wide.copy(0, 0, 15, 30)), 0) << "stretched";
     EXPECT_EQ(request("iphone/light/000000ff", {0, 42}).size(), QSize(42, 42));
     for (const char* id : {"no.such.symbol/regular/000000ff", "iphone/heavy/000000ff", "iphone"})
         EXPECT_TRUE(request(id, {16, 16}).isNull()) << id;
-}
 
-// Catches a picture that is stretched, off its place or of another scale, and one without a size.
-TEST(Pictures, anIconIsCentredAndAPointerHasItsTipInTheCorner) {
-    SymbolImageProvider provider(std::make_unique<DrawnLook>());
-    const QImage icon = provider.requestImage(u"applicationIcon"_s, nullptr, {80, 40});
+    const QImage icon = request("applicationIcon", {80, 40});
     EXPECT_EQ(coverage(icon.copy(0, 0, 20, 40)) + coverage(icon.copy(60, 0, 20, 40)), 0);
     EXPECT_GT(coverage(icon.copy(20, 0, 40, 40)), 900);
-    const QImage arrow = provider.requestImage(u"arrowPointer"_s, nullptr, {64, 64});
+    const QImage arrow = request("arrowPointer", {64, 64});
     EXPECT_NEAR(coverage(arrow), coverage(arrow.copy(0, 0, 28, 40)), 1e-6);
     EXPECT_GT(coverage(arrow.copy(0, 0, 4, 4)), 12) << "the tip is elsewhere";
     EXPECT_GT(coverage(arrow.copy(0, 32, 28, 8)), 8) << "too small";

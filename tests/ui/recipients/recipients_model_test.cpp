@@ -148,18 +148,14 @@ Rows numbered(int count, int every = 1) {
     return rows;
 }
 
-/// `before` after the steps; `stayed` gets what no step touched.
-Rows walked(Rows before, const Rows& after, qsizetype kept, Rows* stayed = nullptr) {
-    for (const RowChange& step : rowChanges(before, after, kept)) {
-        const auto begin = before.begin() + step.first;
-        if (step.kind == RowChange::Kind::remove)
-            before.erase(begin, begin + step.count);
+/// `before` after the steps.
+Rows walked(Rows before, const Rows& after, qsizetype kept) {
+    for (const auto& [kind, first, count] : rowChanges(before, after, kept))
+        if (kind == RowChange::Kind::remove)
+            before.erase(before.begin() + first, before.begin() + first + count);
         else
-            before.insert(begin, after.begin() + step.first,
-                          after.begin() + step.first + step.count);
-        if (step.kind == RowChange::Kind::remove && stayed != nullptr)
-            *stayed = before;
-    }
+            before.insert(before.begin() + first, after.begin() + first,
+                          after.begin() + first + count);
     return before;
 }
 
@@ -183,11 +179,13 @@ TEST(RowChanges, LeadFromAnyListToAnyOtherInFewSteps) {
 
     const Rows everyone = numbered(10000);
     const Rows some = numbered(10000, 3);
-    Rows stayed;
-    EXPECT_EQ(walked(everyone, some, 6000, &stayed), some);
-    EXPECT_LT(rowChanges(everyone, some, 6000).size(), 250U);
-    for (int row = 6000; row < 6030; row += 3)
-        EXPECT_NE(std::ranges::find(stayed, QString::number(row)), stayed.end()) << row;
+    EXPECT_EQ(walked(everyone, some, 6000), some);
+    const std::vector<RowChange> steps = rowChanges(everyone, some, 6000);
+    EXPECT_LT(steps.size(), 250U);
+    for (const auto& [kind, first, count] : steps)
+        EXPECT_TRUE(kind == RowChange::Kind::insert || count == 2 || first + count < 6000 ||
+                    first > 6030)
+            << first;
     EXPECT_TRUE(rowChanges(some, some, 0).empty());
 }
 

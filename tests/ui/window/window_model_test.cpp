@@ -74,9 +74,7 @@ TEST_F(WindowModels, ARunIsClosedOnlyByTheEndOfTheSession) {
     const QSignalSpy attention(&window, &MainWindowModel::attentionWanted);
     model->alert = u"Something else."_s;
     EXPECT_FALSE(window.mayClose());
-    EXPECT_EQ(window.alert().message,
-              u"3 people would not be texted. Send again under the same run name, and it goes on "
-              "with them."_s);
+    EXPECT_TRUE(window.alert().message.startsWith(u"3 people would not be texted."));
     window.dismissAlert();
     EXPECT_EQ(window.alert().message, u"Something else."_s);
     window.dismissAlert();
