@@ -18,14 +18,17 @@ using namespace Qt::StringLiterals;
 inline const QString myLine = u"+12125559999"_s;
 inline const QString myOtherLine = u"+12125558888"_s;
 
+/// The person with one more field.
+inline QByteArray with(const QByteArray& key, const QByteArray& value, QByteArray person) {
+    return person.replace("{", "{\"" + key + "\": \"" + value + "\",");
+}
+
 /// Velmora in a home of its own: Ann, Bob and Joanne in the group Friends, all on iMessage, and a
 /// history that names one sending number.
 class AppHome : public ::testing::Test {
   protected:
     AppHome() {
-        friends({person(u"ann"_s, u"Ann"_s, u"Lee"_s, u"(212) 555-0101"_s),
-                 person(u"joanne"_s, u"Joanne"_s, u""_s, u"212 555 0103"_s),
-                 person(u"bob"_s, u"Bob"_s, u"Stone"_s, u"212 555 0102"_s)});
+        friends({ann, joanne, bob});
         home.writeMessages(messagesOnLine(myLine));
         thread(u"+12125550101"_s, myLine);
     }
@@ -70,19 +73,9 @@ class AppHome : public ::testing::Test {
     }
 
     [[nodiscard]] const Recipient& recipient(const QString& id) const {
-        for (const Recipient& each : model->recipients())
-            if (each.id == id)
-                return each;
-        throw std::runtime_error("no such recipient: " + id.toStdString());
-    }
-
-    [[nodiscard]] QString text(const QString& id) const { return model->textFor(recipient(id)); }
-
-    [[nodiscard]] QStringList shown() const {
-        QStringList ids;
-        for (const qsizetype index : model->visibleRecipients())
-            ids.append(model->recipients()[static_cast<size_t>(index)].id);
-        return ids;
+        const auto& all = model->recipients();
+        const auto found = std::ranges::find(all, id, &Recipient::id);
+        return all.at(static_cast<size_t>(found - all.begin()));
     }
 
     [[nodiscard]] QString settingsPath() const {
@@ -92,11 +85,10 @@ class AppHome : public ::testing::Test {
         SupportFolder folder(home.applicationSupport());
         return ConfigStore(folder).load();
     }
-    [[nodiscard]] std::vector<LogEntry> logged(const QString& batch) const {
-        SupportFolder folder(home.applicationSupport());
-        return SendLog(folder, world.clock).load(batch);
-    }
 
+    const QByteArray ann = person(u"ann"_s, u"Ann"_s, u"Lee"_s, u"(212) 555-0101"_s);
+    const QByteArray bob = person(u"bob"_s, u"Bob"_s, u"Stone"_s, u"212 555 0102"_s);
+    const QByteArray joanne = person(u"joanne"_s, u"Joanne"_s, u""_s, u"212 555 0103"_s);
     RehearsalHome home;
     VirtualSurroundings world;
     std::optional<Platform> platform;

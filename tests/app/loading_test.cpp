@@ -5,197 +5,135 @@ namespace {
 
 using Startup = AppHome;
 
-QTime timeOf(const QString& text, AppModel& model) {
-    model.editConfig([&](AppConfig& config) { config.quietStart = text; });
-    return model.timeOfDay(QuietField::start).time();
-}
-
 // Catches a start that leaves a new user without a list, a run name or their only number, or that
-// forgets one of them at the next start.
-TEST_F(Startup, FirstStartChoosesWhatIsObviousAndKeepsIt) {
-    EXPECT_FALSE(open().bootstrapped);
+// forgets one of them at the next; settings lost without a word, written needlessly or, where an
+// observer stores too, in part; and names read where they must not be.
+TEST_F(Startup, ChoosesWhatIsObviousAndKeepsIt) {
+    open().setConfig(model->config());
     EXPECT_FALSE(QFile::exists(settingsPath()));
     started();
     EXPECT_EQ(stored().selectedGroupID, allContactsID);
     EXPECT_EQ(stored().senderNumber, myLine);
     EXPECT_EQ(model->batchName.value(), u"All Contacts 2025-03-14"_s);
-    EXPECT_EQ(model->currentGroup(), (GroupInfo{allContactsID, u"All Contacts"_s, 3}));
     EXPECT_EQ(model->recipients().size(), 3);
-
+    QObject::connect(model.get(), &AppModel::configChanged, model.get(), [this] {
+        if (model->config().maxFailures != 7)
+            model->editConfig([](AppConfig& config) { config.maxFailures = 7; });
+    });
     model->editConfig([](AppConfig& config) { config.selectedGroupID = u"deleted"_s; });
+    EXPECT_EQ(stored(), model->config());
     started();
     EXPECT_EQ(stored().selectedGroupID, allContactsID);
-}
+    EXPECT_EQ(stored().maxFailures, 7);
 
-// Catches a start that waits for ever or reads names when it may not.
-TEST_F(Startup, WithoutAccessNothingIsLoaded) {
-    home.writeContacts(R"({"access": "denied", "contacts": [{"identifier": "ann"}]})");
-    started();
-    EXPECT_FALSE(model->contactsAllowed);
-    EXPECT_TRUE(model->groups.value().empty() && model->recipients().empty());
-    EXPECT_EQ(model->allContactsCount.value(), 0);
-    EXPECT_EQ(model->batchName.value(), QString());
-    EXPECT_EQ(stored().selectedGroupID, std::nullopt);
-    EXPECT_EQ(model->alert.value(), std::nullopt);
-}
-
-// Catches settings that are lost without a word.
-TEST_F(Startup, SettingsThatWereNotUnderstoodAreNamed) {
     writeTestFile(settingsPath(), "{ torn");
-    open();
-    EXPECT_EQ(model->alert.value(), std::nullopt) << "nothing has happened yet";
     started();
     EXPECT_TRUE(model->alert.value().value_or(QString()).contains(u"/config (kept).json\", "));
     model->alert = std::nullopt;
     model->acceptTerms();
     EXPECT_EQ(model->alert.value(), std::nullopt) << "said twice";
+
+    home.writeContacts(R"({"access": "denied", "contacts": [{"identifier": "ann"}]})");
+    started();
+    EXPECT_FALSE(model->contactsAllowed || model->alert.value());
+    EXPECT_TRUE(model->recipients().empty() && model->batchName.value().isEmpty());
 }
 
-// Catches a number picked for the user among several, a chosen one replaced, and an alias twice.
+// Catches a number picked for the user among several, a chosen one replaced and an alias twice;
+// help that does not leave when access is back, and a look in vain that counts as the last one.
 TEST_F(Startup, NumbersAreMergedAndChosenOnlyWhenThereIsNoChoice) {
     thread(u"+12125550101"_s, myLine);
     thread(u"+12125550102"_s, myOtherLine);
     home.writeMessages(R"({"aliases": {"allAliases": ["+12125558888", "+1999", "me@a.com"]}})");
-    started();
-    EXPECT_EQ(model->numbers.value(),
-              (std::vector<NumberInfo>{{myLine, 2}, {myOtherLine, 1}, {u"+1999"_s, 0}}));
-    EXPECT_EQ(model->config().senderNumber, QString());
-    EXPECT_FALSE(model->needsSenderSetup());
-    model->acceptTerms();
-    EXPECT_TRUE(model->needsSenderSetup());
+    started().acceptTerms();
+    const std::vector<NumberInfo> numbers{{myLine, 2}, {myOtherLine, 1}, {u"+1999"_s, 0}};
+    EXPECT_EQ(model->numbers.value(), numbers);
+    EXPECT_TRUE(model->config().senderNumber.isEmpty() && model->needsSenderSetup());
     model->setSenderNumber(u"+10000000000"_s);
     model->refreshNumbers();
     EXPECT_EQ(stored().senderNumber, u"+10000000000"_s);
     EXPECT_FALSE(model->needsSenderSetup());
-}
 
-// Catches help that covers the terms or stays after access came back, and a time of the last look
-// that a failed look moves.
-TEST_F(Startup, LosingTheHistoryShowsHelpUntilItIsBack) {
-    started();
     const std::optional<Moment> checkedAt = model->numbersCheckedAt;
     const QString away = home.historyPath() + u".away"_s;
     ASSERT_TRUE(QFile::rename(home.historyPath(), away));
     world.clock.advance(60);
     model->refreshNumbers();
-    EXPECT_FALSE(model->dbOK);
+    EXPECT_TRUE(!model->dbOK && model->numbers.value().empty());
     EXPECT_TRUE(model->dbError.value().startsWith(u"Couldn't open Messages history: "));
-    EXPECT_TRUE(model->numbers.value().empty());
     EXPECT_EQ(model->numbersCheckedAt.value(), checkedAt);
-    EXPECT_FALSE(model->needsFDAHelp());
-    model->acceptTerms();
-    EXPECT_TRUE(model->needsFDAHelp());
-    model->skippedFDAHelp = true;
-    EXPECT_FALSE(model->needsFDAHelp());
     model->showingFDAHelp = true;
-    EXPECT_TRUE(model->needsFDAHelp());
-
     ASSERT_TRUE(QFile::rename(away, home.historyPath()));
     model->refreshNumbers();
-    EXPECT_TRUE(model->dbOK);
-    EXPECT_FALSE(model->needsFDAHelp());
-    EXPECT_EQ(model->dbError.value(), QString());
+    EXPECT_TRUE(model->dbError.value().isEmpty() && !model->needsFDAHelp());
     EXPECT_GT(model->numbersCheckedAt.value(), checkedAt);
 }
 
-// Catches needless writes, and a file that holds less than the model when an observer stores too.
-TEST_F(Startup, SettingsAreSavedWhenTheyDifferAndTheNewestWins) {
-    open();
-    model->setConfig(model->config());
-    EXPECT_FALSE(QFile::exists(settingsPath()));
-    QObject::connect(model.get(), &AppModel::configChanged, model.get(), [this] {
-        if (model->config().maxFailures != 7)
-            model->editConfig([](AppConfig& config) { config.maxFailures = 7; });
-    });
-    model->editConfig([](AppConfig& config) { config.delayMin = 5; });
-    EXPECT_EQ(stored(), model->config());
-    EXPECT_EQ(stored().maxFailures, 7);
-    EXPECT_EQ(stored().delayMin, 5);
-}
-
-// Catches pickers that show another time than is stored, most of all on the days when clocks
-// change.
+// Catches pickers that show another time than is stored, most of all when the clocks change.
 TEST_F(Startup, TimesOfDayExistOnTheDayTheyAreShown) {
-    open();
-    EXPECT_EQ(timeOf(u"7:5"_s, *model), QTime(7, 5));
-    EXPECT_EQ(timeOf(u"late"_s, *model), QTime(10, 0));
-    for (const auto& impossible : {u"25:99"_s, u"-1:30"_s, u"99999999999:0"_s})
-        EXPECT_EQ(timeOf(impossible, *model), localTime(world.clock.now()).time());
-    model->setTimeOfDay(QDateTime(QDate(2025, 1, 1), QTime(7, 5, 59)), QuietField::end);
+    open().setTimeOfDay(QDateTime(QDate(2025, 1, 1), QTime(7, 5, 59)), QuietField::end);
     EXPECT_EQ(stored().quietEnd, u"07:05"_s);
-
+    const auto shown = [this](const QString& text) {
+        model->editConfig([&](AppConfig& config) { config.quietStart = text; });
+        return model->timeOfDay(QuietField::start).time();
+    };
+    EXPECT_EQ(shown(u"7:5"_s), QTime(7, 5));
+    EXPECT_EQ(shown(u"late"_s), QTime(10, 0));
+    for (const QString& impossible : {u"25:99"_s, u"-1:30"_s, u"99999999999:0"_s})
+        EXPECT_EQ(shown(impossible), QTime(11, 0)) << "not now";
     world.clock.shiftWall(-5 * 86400.0);  // 9 March 2025: there is no 2:30
-    model->setTimeOfDay(2, 30, QuietField::start);
-    EXPECT_EQ(stored().quietStart, u"02:30"_s);
-    EXPECT_EQ(timeOf(u"2:30"_s, *model), QTime(3, 0));
-    EXPECT_EQ(timeOf(u"3:10"_s, *model), QTime(3, 10));
+    EXPECT_EQ(shown(u"2:30"_s), QTime(3, 0));
+    EXPECT_EQ(shown(u"3:10"_s), QTime(3, 10));
     world.clock.shiftWall(238 * 86400.0);  // 2 November 2025: 1:30 comes twice
-    EXPECT_EQ(timeOf(u"1:30"_s, *model), QTime(1, 30));
+    EXPECT_EQ(shown(u"1:30"_s), QTime(1, 30));
     EXPECT_EQ(model->timeOfDay(QuietField::start).toUTC().time(), QTime(5, 30));
 }
 
 using List = AppHome;
 
-const QString newThread =
-    u"New thread. Your iPhone uses their preferred line, or your default line."_s;
-
-QByteArray with(const QByteArray& key, const QByteArray& value, QByteArray person) {
-    return person.replace("{", "{\"" + key + "\": \"" + value + "\",");
-}
-
 // Catches someone texted who should not be, or blocked who need not be: the order of the checks,
-// whose number it is, a conversation on an e-mail address, and a name to show for everyone.
+// whose number it is, a conversation on an e-mail address, a name to show for everyone, and a
+// warning that a change of number or of access to the history leaves behind.
 TEST_F(List, EveryoneIsCheckedInTheOrderOfTheAddressBook) {
     friends({person(u"none"_s, u""_s, u""_s, u"55512"_s),
              person(u"nameless"_s, u""_s, u"\u00c9mile"_s, u"212 555 0104"_s),
              person(u"zoe"_s, u"zoe"_s, u"Young"_s, u"212 555 0104"_s, {u"Zoe@example.com"_s}),
              person(u"abe"_s, u"Abe"_s, u"Old"_s, u"+1 212 555 0104"_s),
-             with("nickname", "Nan", person(u"nan"_s, u""_s, u""_s, u"212 555 0105"_s)),
-             person(u"ann"_s, u"Ann"_s, u"Lee"_s, u"212 555 0101"_s)});
+             with("nickname", "Nan", person(u"nan"_s, u""_s, u""_s, u"212 555 0105"_s)), ann});
     thread(u"zoe@example.com"_s, myLine);
     withFriends().setCurrentTemplate(u"{first_name}"_s);
     QStringList seen;
     for (const Recipient& each : model->recipients())
         seen.append(each.name + u": "_s + each.issue.value_or(u"fine"_s));
+    const QString newThread =
+        u"New thread. Your iPhone uses their preferred line, or your default line."_s;
     EXPECT_EQ(seen, (QStringList{u"(no name): No usable phone number."_s,
                                  u"Abe Old: Same number as another contact in this list."_s,
                                  u"Ann Lee: fine"_s, u"\u00c9mile: No first name on the contact."_s,
                                  u"Nan: "_s + newThread, u"zoe Young: fine"_s}));
-    EXPECT_EQ(text(u"nan"_s), u"Nan");
+    EXPECT_EQ(model->textFor(recipient(u"nan"_s)), u"Nan");
+    EXPECT_EQ(model->textFor(recipient(u"abe"_s)), QString());
     EXPECT_EQ(model->attentionCount(), 3);
-    EXPECT_TRUE(recipient(u"zoe"_s).usable);
-    EXPECT_FALSE(recipient(u"abe"_s).usable);
-    EXPECT_EQ(text(u"abe"_s), QString());
-}
+    EXPECT_TRUE(recipient(u"zoe"_s).usable && !recipient(u"abe"_s).usable);
 
-// Catches warnings that a change of number or of access to the history leaves behind.
-TEST_F(List, LinesAreJudgedAgainstTheNumberSentFrom) {
-    thread(u"+12125550102"_s, u"me@example.com"_s);
-    withFriends();
-    EXPECT_EQ(recipient(u"ann"_s).issue, std::nullopt);
     model->setSenderNumber(myOtherLine);
-    EXPECT_EQ(recipient(u"ann"_s).issue,
-              u"Your thread with them is on (212) 555-9999. Text them once by hand from "
-              "(212) 555-8888 first."_s);
-    EXPECT_EQ(recipient(u"bob"_s).issue, std::nullopt);
-    EXPECT_EQ(recipient(u"joanne"_s).issue, newThread);
-    EXPECT_EQ(model->attentionCount(), 1);
+    const QString otherLine = recipient(u"ann"_s).issue.value_or(QString());
+    EXPECT_TRUE(otherLine.startsWith(u"Your thread with them is on (212) 555-9999. Text them"));
     model->setSenderNumber(QString());
-    EXPECT_EQ(model->attentionCount(), 0);
+    EXPECT_EQ(recipient(u"ann"_s).issue, std::nullopt);
     changeHistory(home.historyPath(), "DROP TABLE handle");
     model->loadList();
     EXPECT_EQ(recipient(u"ann"_s).issue, newThread) << "a look-up that fails";
     ASSERT_TRUE(QFile::rename(home.historyPath(), home.historyPath() + u".away"_s));
     model->loadList();
-    EXPECT_EQ(recipient(u"joanne"_s).issue, std::nullopt);
+    EXPECT_EQ(recipient(u"ann"_s).issue, std::nullopt);
 }
 
-// Catches choices that are lost, or that loading or changing the list rewrites, and a search or a
-// note being edited that stays with another list.
+// Catches choices that are lost, or that loading or changing the list rewrites, a search or a note
+// being edited that stays with another list, and a failed read that empties the window or is kept
+// silent.
 TEST_F(List, ChecksAreRememberedForEachListAndOnlyTheUserChangesThem) {
-    withFriends();
-    EXPECT_TRUE(model->selection().isEmpty());
-    model->setSelection({u"ann"_s, u"bob"_s});
+    withFriends().setSelection({u"ann"_s, u"bob"_s});
     model->searchText = u"ann"_s;
     model->selectedOnly = true;
     model->editingNoteID = u"ann"_s;
@@ -204,13 +142,21 @@ TEST_F(List, ChecksAreRememberedForEachListAndOnlyTheUserChangesThem) {
     EXPECT_EQ(model->searchText.value(), QString());
     EXPECT_TRUE(model->selection().isEmpty());
     EXPECT_FALSE(stored().picks.contains(allContactsID));
-    friends({person(u"ann"_s, u"Ann"_s, u"Lee"_s, u"(212) 555-0101"_s),
-             person(u"bob"_s, u"Bob"_s, u"Stone"_s)});
+    friends({ann, person(u"bob"_s, u"Bob"_s, u"Stone"_s)});
     model->selectGroup(u"friends"_s);
     EXPECT_EQ(model->selection(), QSet<QString>{u"ann"_s});
     EXPECT_EQ(stored().picks[u"friends"_s], (QStringList{u"ann"_s, u"bob"_s}));
     model->setSelected(u"ann"_s, false);
     EXPECT_EQ(stored().picks[u"friends"_s], QStringList());
+
+    home.writeContacts("{");
+    model->loadList();
+    EXPECT_TRUE(model->alert.value().value().startsWith(u"Couldn't read that list: "));
+    EXPECT_EQ(model->recipients().size(), 2);
+    EXPECT_FALSE(model->loading);
+    model->loadGroups();
+    EXPECT_TRUE(model->alert.value().value().startsWith(u"Couldn't read your Contacts groups: "));
+    EXPECT_EQ(model->groups.value().size(), 1);
 
     model->selectGroup(QString());
     EXPECT_EQ(model->recipients().size(), 0);
@@ -220,35 +166,24 @@ TEST_F(List, ChecksAreRememberedForEachListAndOnlyTheUserChangesThem) {
     EXPECT_TRUE(stored().templates.isEmpty());
 }
 
-// Catches a failed read that empties the window or is kept silent.
-TEST_F(List, AnUnreadableListLeavesWhatIsShown) {
-    withFriends();
-    home.writeContacts("{");
-    model->loadList();
-    EXPECT_TRUE(model->alert.value().value().startsWith(u"Couldn't read that list: "));
-    EXPECT_EQ(model->recipients().size(), 3);
-    EXPECT_FALSE(model->loading);
-    model->loadGroups();
-    EXPECT_TRUE(model->alert.value().value().startsWith(u"Couldn't read your Contacts groups: "));
-    EXPECT_EQ(model->groups.value().size(), 1);
-}
-
-// Catches a search that misses what reads the same, finds by two digits, or selects what is hidden.
+// Catches a search that misses what reads the same, finds by two digits, or checks what is hidden.
 TEST_F(List, SearchFindsByNameCompanyAndPhoneAndNarrowsTheBulkChecks) {
-    friends(
-        {person(u"ann"_s, u"Ann"_s, u""_s, u"212 555 0101"_s),
-         person(u"joanne"_s, u"Joanne"_s, u""_s, u"212 777 0103"_s),
-         with("organizationName", " CAF\u00c9 \\n", person(u"rene"_s, u"Rene\u0301"_s, u""_s))});
+    friends({ann, person(u"joanne"_s, u"Joanne"_s, u""_s, u"212 777 0103"_s),
+             with("organizationName", " CAF\u00c9 \\n", person(u"rene"_s, u"Rene\u0301"_s, {}))});
     withFriends();
-    const std::vector<std::pair<QString, QStringList>> searches = {
-        {u" \t"_s, {u"ann"_s, u"joanne"_s, u"rene"_s}},
-        {u" ann\t"_s, {u"ann"_s, u"joanne"_s}},
-        {u"REN\u00c9"_s, {u"rene"_s}},
-        {u"cafe\u0301"_s, {u"rene"_s}},
-        {u"(555)"_s, {u"ann"_s}},
-        {u"55"_s, {}},
-        {u"ann\n"_s, {}}};
-    for (const auto& [text, found] : searches) {
+    const auto shown = [this] {
+        QString ids;
+        for (const qsizetype index : model->visibleRecipients())
+            ids += model->recipients()[static_cast<size_t>(index)].id + u' ';
+        return ids.trimmed();
+    };
+    for (const auto& [text, found] : {std::pair(u" \t"_s, u"ann joanne rene"_s),
+                                      {u" ann\t"_s, u"ann joanne"_s},
+                                      {u"REN\u00c9"_s, u"rene"_s},
+                                      {u"cafe\u0301"_s, u"rene"_s},
+                                      {u"(555)"_s, u"ann"_s},
+                                      {u"55"_s, u""_s},
+                                      {u"ann\n"_s, u""_s}}) {
         model->searchText = text;
         EXPECT_EQ(shown(), found) << text.toStdString();
     }
@@ -260,37 +195,9 @@ TEST_F(List, SearchFindsByNameCompanyAndPhoneAndNarrowsTheBulkChecks) {
     EXPECT_EQ(model->selection(), (QSet<QString>{u"ann"_s, u"joanne"_s}));
     model->searchText = u"jo"_s;
     model->clearShown();
-    EXPECT_EQ(model->selection(), QSet<QString>{u"ann"_s});
     model->searchText = QString();
     model->selectedOnly = true;
-    EXPECT_EQ(shown(), QStringList{u"ann"_s});
-}
-
-// Catches a list that is replaced, and with it a focus lost, by a tick, a note or a typed letter.
-TEST_F(List, TicksNotesAndTypingChangeOnlyWhatTheyTouch) {
-    withFriends();
-    int replaced = 0;
-    int texts = 0;
-    std::vector<qsizetype> changed;
-    QObject::connect(model.get(), &AppModel::recipientsReplaced, [&] { ++replaced; });
-    QObject::connect(model.get(), &AppModel::recipientTextsChanged, [&] { ++texts; });
-    QObject::connect(model.get(), &AppModel::recipientTextChanged,
-                     [&](qsizetype index) { changed.push_back(index); });
-    model->setSelected(u"bob"_s, true);
-    model->setCurrentTemplate(u"Hi {first_name}{custom_note}"_s);
-    EXPECT_EQ(texts, 1);
-    model->setNote(u"bob"_s, u" see you \n"_s);
-    EXPECT_EQ(text(u"bob"_s), u"Hi Bob see you"_s);
-    EXPECT_EQ(stored().notes[u"bob"_s], u" see you \n"_s);
-    EXPECT_EQ(changed, std::vector<qsizetype>{1});
-    model->setNote(u"bob"_s, QString());
-    EXPECT_TRUE(stored().notes.isEmpty());
-    EXPECT_EQ(text(u"bob"_s), u"Hi Bob"_s);
-    EXPECT_EQ(text(u"ann"_s), u"Hi Ann"_s);
-    EXPECT_EQ(replaced, 0);
-    model->loadList();
-    EXPECT_EQ(replaced, 1);
-    EXPECT_EQ(texts, 1);
+    EXPECT_EQ(shown(), u"ann"_s);
 }
 
 }  // namespace

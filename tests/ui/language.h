@@ -1,19 +1,15 @@
 #pragma once
 
 #include <QLocale>
+#include <QScopeGuard>
 
 namespace velmora {
 
-/// The language that the interface speaks as long as this lives.
-class Language {
-  public:
-    explicit Language(const QString& name) { QLocale::setDefault(QLocale(name)); }
-    ~Language() { QLocale::setDefault(before_); }
-    Language(const Language&) = delete;
-    Language& operator=(const Language&) = delete;
-
-  private:
-    const QLocale before_;
-};
+/// Has the interface speak that language as long as the answer lives.
+[[nodiscard]] inline auto speaking(const QString& language) {
+    const QLocale before;
+    QLocale::setDefault(QLocale(language));
+    return qScopeGuard([before] { QLocale::setDefault(before); });
+}
 
 }  // namespace velmora

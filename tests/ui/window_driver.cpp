@@ -9,13 +9,9 @@
 using namespace Qt::StringLiterals;
 
 namespace velmora {
-
 namespace {
 
-QStringList& heard() {
-    static QStringList messages;
-    return messages;
-}
+QStringList heard;
 
 void hear(QtMsgType type, const QMessageLogContext&, const QString& message) {
     if (type == QtFatalMsg)
@@ -23,7 +19,7 @@ void hear(QtMsgType type, const QMessageLogContext&, const QString& message) {
     // The window system without a screen has no windows to raise or to hint at.
     if (type != QtDebugMsg && type != QtInfoMsg &&
         !message.startsWith("This plugin does not support"_L1))
-        heard().append(message);
+        heard.append(message);
 }
 
 // As it reads: a space that keeps its neighbours together is one like any other.
@@ -44,6 +40,11 @@ QAccessibleInterface* findBelow(QAccessibleInterface* root, const QString& name,
         if (auto* found = findBelow(root->child(child), name, role))
             return found;
     return nullptr;
+}
+
+QAccessibleInterface* find(QWindow* window, const QString& name,
+                           QAccessible::Role role = QAccessible::NoRole) {
+    return findBelow(QAccessible::queryAccessibleInterface(window), name, role);
 }
 
 // A frame puts everything where it belongs.
@@ -85,7 +86,7 @@ WindowDriver::WindowDriver(AppModel& model, VirtualClock& clock)
 
 WindowDriver::WindowDriver(AppModel& model, std::function<void()> passTime, Motion motion)
     : passTime_(std::move(passTime)), handlerBefore_(qInstallMessageHandler(hear)) {
-    heard().clear();
+    heard.clear();
     QAccessible::setActive(true);
     main_ = std::make_unique<MainWindow>(model, nullptr, motion);
     main_->show();
@@ -99,7 +100,7 @@ WindowDriver::~WindowDriver() {
 }
 
 QStringList WindowDriver::complaints() const {
-    return heard();
+    return heard;
 }
 
 void WindowDriver::settle() {
@@ -117,45 +118,42 @@ bool WindowDriver::until(const std::function<bool()>& condition, int seconds) {
     return condition();
 }
 
+bool WindowDriver::appears(const QString& name) {
+    return until([&] { return shows(name); });
+}
+
+bool WindowDriver::vanishes(const QString& name) {
+    return until([&] { return !shows(name); });
+}
+
 bool WindowDriver::shows(const QString& name, QWindow* in) {
-    auto* root = QAccessible::queryAccessibleInterface(in == nullptr ? &window() : in);
-    return findBelow(root, name, QAccessible::NoRole) != nullptr;
+    return find(orMain(in), name) != nullptr;
+}
+
+QList<QAccessibleInterface*> WindowDriver::elements(QWindow* in) {
+    QList<QAccessibleInterface*> all;
+    gather(QAccessible::queryAccessibleInterface(orMain(in)), all);
+    return all;
 }
 
 QStringList WindowDriver::spoken(const QString& name, QWindow* in) {
-    QWindow* there = in == nullptr ? &window() : in;
-    layOut(there);
-    auto* root = QAccessible::queryAccessibleInterface(there);
-    QAccessibleInterface* from = name.isEmpty() ? root : findBelow(root, name, QAccessible::NoRole);
-    QList<QAccessibleInterface*> elements;
-    gather(from, elements);
+    layOut(orMain(in));
+    auto* whole = QAccessible::queryAccessibleInterface(orMain(in));
+    QList<QAccessibleInterface*> below;
+    gather(name.isEmpty() ? whole : find(orMain(in), name), below);
     QStringList all;
-    for (QAccessibleInterface* each : elements)
+    for (QAccessibleInterface* each : below)
         if (!each->text(QAccessible::Name).isEmpty())
             all.append(speech(each));
     return all;
 }
 
-QList<QAccessibleInterface*> WindowDriver::elements(QWindow* in) {
-    QList<QAccessibleInterface*> all;
-    gather(QAccessible::queryAccessibleInterface(in == nullptr ? &window() : in), all);
-    return all;
-}
-
 QRect WindowDriver::area(const QString& name, QAccessible::Role role, QWindow* in) {
-    QWindow* there = in == nullptr ? &window() : in;
+    QWindow* there = orMain(in);
     layOut(there);
     QAccessibleInterface* found = nullptr;
-    until([&] {
-        found = findBelow(QAccessible::queryAccessibleInterface(there), name, role);
-        return found != nullptr;
-    });
+    until([&] { return (found = find(there, name, role)) != nullptr; });
     return found == nullptr ? QRect() : found->rect().translated(there->mapFromGlobal(QPoint()));
-}
-
-QPoint WindowDriver::place(const QString& name, QAccessible::Role role, QWindow* in) {
-    const QRect found = area(name, role, in);
-    return found.isNull() ? QPoint() : found.center();
 }
 
 bool WindowDriver::click(const QString& name, QAccessible::Role role, QWindow* in) {
@@ -166,23 +164,26 @@ bool WindowDriver::click(const QString& name, QAccessible::Role role, QWindow* i
 }
 
 void WindowDriver::clickAt(QPoint place, QWindow* in) {
-    QWindow* window = in == nullptr ? &this->window() : in;
-    QTest::mouseMove(window, place);
-    QTest::mouseClick(window, Qt::LeftButton, {}, place);
+    QTest::mouseMove(orMain(in), place);
+    QTest::mouseClick(orMain(in), Qt::LeftButton, {}, place);
     settle();
 }
 
 void WindowDriver::type(const QString& text) {
-    for (const QChar each : text) {
-        QTest::sendKeyEvent(QTest::Click, QGuiApplication::focusWindow(), Qt::Key_unknown, each,
-                            {});
-    }
+    QWindow* window = QGuiApplication::focusWindow();
+    for (const QChar each : text)
+        QTest::sendKeyEvent(QTest::Click, window, Qt::Key_unknown, each, {});
     settle();
 }
 
 void WindowDriver::key(int key, Qt::KeyboardModifiers modifiers) {
     QTest::keyClick(QGuiApplication::focusWindow(), static_cast<Qt::Key>(key), modifiers);
     settle();
+}
+
+void WindowDriver::keys(std::initializer_list<QKeyCombination> keys) {
+    for (const QKeyCombination each : keys)
+        key(each.key(), each.keyboardModifiers());
 }
 
 QString WindowDriver::focused() const {

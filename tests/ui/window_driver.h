@@ -29,6 +29,9 @@ class WindowDriver {
     /// Lets things happen until `condition` holds; false when it does not in `seconds` of the
     /// computer's own time.
     bool until(const std::function<bool()>& condition, int seconds = 10);
+    /// Lets things happen until something of that name is on the screen, or nothing is any more.
+    bool appears(const QString& name);
+    bool vanishes(const QString& name);
 
     /// Whether something of that name is on the screen, in the main window or `in` another.
     [[nodiscard]] bool shows(const QString& name, QWindow* in = nullptr);
@@ -46,11 +49,15 @@ class WindowDriver {
                              QWindow* in = nullptr);
     /// Its middle.
     [[nodiscard]] QPoint place(const QString& name, QAccessible::Role role = QAccessible::NoRole,
-                               QWindow* in = nullptr);
+                               QWindow* in = nullptr) {
+        return area(name, role, in).center();
+    }
     void clickAt(QPoint place, QWindow* in = nullptr);
     /// Types ASCII characters.
     void type(const QString& text);
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// Presses one key after the other.
+    void keys(std::initializer_list<QKeyCombination> keys);
     /// The name of what has the keyboard in the focused window, or of the nearest thing around it
     /// that has a name.
     [[nodiscard]] QString focused() const;
@@ -58,6 +65,8 @@ class WindowDriver {
     [[nodiscard]] static QWindow* windowTitled(const QString& title);
 
   private:
+    [[nodiscard]] QWindow* orMain(QWindow* other) { return other ? other : &window(); }
+
     std::function<void()> passTime_;
     QtMessageHandler handlerBefore_;
     std::unique_ptr<MainWindow> main_;

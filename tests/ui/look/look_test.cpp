@@ -1,10 +1,11 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <QDir>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <array>
 #include <cmath>
 #include <memory>
 #include <numeric>
@@ -23,7 +24,6 @@ using namespace Qt::StringLiterals;
 void qml_register_types_Velmora();  // NOLINT(readability-identifier-naming): the toolkit's name
 
 namespace velmora {
-
 namespace {
 
 const QColor tint(0x12, 0x34, 0x56);
@@ -67,37 +67,35 @@ TEST(Symbols, areTintedOnTheirGridAndThinnerWhenLight) {
     EXPECT_GT(tick(SymbolWeight::bold), 1.5 * tick(SymbolWeight::regular));
 }
 
-// Catches a symbol that is stretched, in another color, or taken from a wrong address.
-TEST(Symbols, theProviderReadsItsAddressAndRefusesAnyOther) {
+// Catches a symbol or picture that is stretched, off its place, in another colour or of another
+// scale, and one from a wrong address or without a size.
+TEST(Symbols, TheProviderReadsItsAddressAndRefusesAnyOther) {
     SymbolImageProvider provider(std::make_unique<DrawnLook>());
-    QSize size;
     const auto request = [&](const char* id, QSize requested) {
-        return provider.requestImage(QString::fromLatin1(id), &size, requested);
+        QSize size;
+        const QImage image = provider.requestImage(QString::fromLatin1(id), &size, requested);
+        EXPECT_EQ(size, image.size());
+        return image;
     };
     const QImage wide = request("xmark.circle.fill/regular/12345680", {60, 30});
-    EXPECT_EQ(size, QSize(60, 30));
+    EXPECT_EQ(wide.size(), QSize(60, 30));
     EXPECT_EQ(pixels(wide.copy(22, 15, 1, 1)).front(), 0x80123456U);
     EXPECT_EQ(coverage(wide.copy(0, 0, 15, 30)), 0) << "stretched";
     EXPECT_EQ(request("iphone/light/000000ff", {0, 42}).size(), QSize(42, 42));
     EXPECT_EQ(request("person.3/regular/000000ff", {18, 18}).size(), QSize(24, 18));
     for (const char* id : {"no.such.symbol/regular/000000ff", "iphone/heavy/000000ff", "iphone"})
         EXPECT_TRUE(request(id, {16, 16}).isNull()) << id;
-}
 
-// Catches a picture that is stretched, off its place or of another scale, one without a size, and a
-// small icon with the margin and the fine lines of the large.
-TEST(Pictures, anIconIsCentredAndAPointerHasItsTipInTheCorner) {
-    SymbolImageProvider provider(std::make_unique<DrawnLook>());
-    const QImage icon = provider.requestImage(u"applicationIcon"_s, nullptr, {80, 40});
+    const QImage icon = request("applicationIcon", {80, 40});
     EXPECT_EQ(coverage(icon.copy(0, 0, 20, 40)) + coverage(icon.copy(60, 0, 20, 40)), 0);
     EXPECT_GT(coverage(icon.copy(20, 0, 40, 40)), 900);
     const QIcon icons = applicationIcon();
     const auto reach = [&](int side) {
         return coverage(icons.pixmap(side).toImage().copy(0, side / 2, side / 12, 1));
     };
-    EXPECT_GT(reach(32), 0.9);
+    EXPECT_GT(reach(32), 0.9) << "a small icon with the margin and the fine lines of the large";
     EXPECT_EQ(reach(33), 0);
-    const QImage arrow = provider.requestImage(u"arrowPointer"_s, nullptr, {64, 64});
+    const QImage arrow = request("arrowPointer", {64, 64});
     EXPECT_NEAR(coverage(arrow), coverage(arrow.copy(0, 0, 28, 40)), 1e-6);
     EXPECT_GT(coverage(arrow.copy(0, 0, 4, 4)), 12) << "the tip is elsewhere";
     EXPECT_GT(coverage(arrow.copy(0, 32, 28, 8)), 8) << "too small";
@@ -189,24 +187,22 @@ TEST(Theme, TextStandsOutOnEverything) {
 
 // Catches a number that changes its width while it counts.
 TEST(FixedDigits, TakeTheSameWidth) {
-    FixedDigits narrow;
-    FixedDigits wide;
-    narrow.setPixelSize(12);
-    wide.setPixelSize(12);
-    narrow.setText(u"1:11 AM"_s);
-    wide.setText(u"8:40 AM"_s);
-    EXPECT_GT(narrow.implicitWidth(), 0);
-    EXPECT_EQ(narrow.implicitWidth(), wide.implicitWidth());
-    wide.setPixelSize(24);
-    EXPECT_GT(wide.implicitWidth(), narrow.implicitWidth() * 1.5);
+    FixedDigits digits;
+    const auto width = [&digits](const QString& text, int size) {
+        digits.setPixelSize(size);
+        digits.setText(text);
+        return digits.implicitWidth();
+    };
+    const double narrow = width(u"1:11 AM"_s, 12);
+    EXPECT_GT(narrow, 0);
+    EXPECT_EQ(narrow, width(u"8:40 AM"_s, 12));
+    EXPECT_GT(width(u"8:40 AM"_s, 24), narrow * 1.5);
 }
 
 // Catches a drawing that jumps in or out, a pointer that does not end on the switch or presses it
 // at another moment than the switch turns, and a place outside the loop for an early date.
 TEST(FullDiskAccessTimeline, ThePointerGlidesToTheSwitchAndTurnsIt) {
-    struct Frame {
-        double time, opacity, x, y, scale, switchedOn;
-    };
+    using Frame = std::array<double, 6>;  // time, opacity, x, y and scale of the pointer, switch
     FullDiskAccessTimeline timeline;
     for (const Frame& frame : {Frame{0, 0, 250, 180, 1, 0},
                                {0.15, 0.5, 250, 180, 1, 0},
@@ -216,13 +212,10 @@ TEST(FullDiskAccessTimeline, ThePointerGlidesToTheSwitchAndTurnsIt) {
                                {6.3, 1, 273, 90, 1, 1},
                                {6.6, 0.5, 273, 90, 1, 1},
                                {6.95, 0, 273, 90, 1, 1}}) {
-        SCOPED_TRACE(frame.time);
-        timeline.setTime(frame.time);
-        EXPECT_NEAR(timeline.opacity(), frame.opacity, 1e-9);
-        EXPECT_NEAR(timeline.pointerX(), frame.x, 1e-9);
-        EXPECT_NEAR(timeline.pointerY(), frame.y, 1e-9);
-        EXPECT_EQ(timeline.pointerScale(), frame.scale);
-        EXPECT_NEAR(timeline.switchedOn(), frame.switchedOn, 1e-9);
+        timeline.setTime(frame[0]);
+        const Frame shown{timeline.time(),     timeline.opacity(),      timeline.pointerX(),
+                          timeline.pointerY(), timeline.pointerScale(), timeline.switchedOn()};
+        EXPECT_THAT(shown, testing::Pointwise(testing::DoubleNear(1e-9), frame));
     }
     timeline.setStill(true);
     EXPECT_EQ(timeline.opacity() * timeline.switchedOn(), 1);
@@ -231,5 +224,4 @@ TEST(FullDiskAccessTimeline, ThePointerGlidesToTheSwitchAndTurnsIt) {
 }
 
 }  // namespace
-
 }  // namespace velmora
