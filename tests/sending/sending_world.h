@@ -11,25 +11,11 @@
 #include "storage/log_lines.h"
 #include "support/rehearsal_home.h"
 #include "support/virtual_surroundings.h"
+#include "support/watched_scripts.h"
 
 namespace velmora {
 
 using namespace Qt::StringLiterals;
-
-/// Passes scripts on to the rehearsal's Messages, counts them, and lets a test look around first.
-struct CountedScripts final : ScriptRunner {
-    explicit CountedScripts(ScriptRunner& messages) : messages(messages) {}
-    [[nodiscard]] ScriptResult run(const QString& source) override {
-        ++count;
-        if (before)
-            before(source);
-        return messages.run(source);
-    }
-
-    int count = 0;
-    std::function<void(const QString& source)> before;
-    ScriptRunner& messages;
-};
 
 /// Counts the activities that are held right now.
 struct CountedActivities final : ActivitySource {
@@ -131,7 +117,7 @@ struct SendingWorld {
     VirtualSurroundings surroundings;
     RehearsalHome home;
     MessagesApplication rehearsal{surroundings.clock, home.path()};
-    CountedScripts scripts{rehearsal};
+    WatchedScripts scripts{rehearsal};
     CountedActivities activities;
     SupportFolder folder{home.applicationSupport()};
     SendLog sendLog{folder, surroundings.clock};
