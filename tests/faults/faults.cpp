@@ -1,13 +1,12 @@
 // Lets each call that Velmora makes on its files fail in turn, once or from then on, in a run of
-// five with settings saved and lines settled, and has the next evening put things right:
-// velmora_faults <library>. Nobody may be texted twice, and no line be lost.
+// five with settings saved and lines settled, and has the next evening put things right. Nobody may
+// be texted twice, and no line be lost.
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <cstdio>
 
+#include "faults/failing_calls.h"
 #include "support/evening.h"
 
 using namespace Qt::StringLiterals;
@@ -17,49 +16,40 @@ namespace velmora {
 namespace {
 
 constexpr int people = 5;
+constexpr int longest = 60'000;  // milliseconds
 
-/// How many calls there were in an evening whose call number `at` fails; nothing when the program
-/// crashed or hung.
-std::optional<int> eveningWithFault(const QString& home, const QString& library, int at,
-                                    bool stays) {
-    QProcess evening;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"LD_PRELOAD"_s, library);
-    environment.insert(u"VELMORA_FAULT_FOLDER"_s, home + u"/.local"_s);
-    environment.insert(u"VELMORA_FAULT_AT"_s, QString::number(at));
-    environment.insert(u"VELMORA_FAULT_STAYS"_s, stays ? u"1"_s : QString());
-    environment.insert(u"VELMORA_FAULT_COUNT"_s, home + u"/count"_s);
-    evening.setProcessEnvironment(environment);
-    evening.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    evening.start(QCoreApplication::applicationFilePath(), {u"evening"_s, home, u"0"_s});
-    const bool ended = evening.waitForFinished(60'000);
-    QFile count(home + u"/count"_s);
-    if (!ended || evening.exitStatus() != QProcess::NormalExit || evening.exitCode() != 0 ||
-        !count.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    return count.readAll().toInt();
+/// An evening whose call number `at` fails. It prints how many calls there were.
+int runWithFault(const QStringList& arguments) {
+    const QString& home = arguments[2];
+    failingCalls = {.folder = (home + u"/.local"_s).toStdString(),
+                    .at = arguments.value(4).toInt(),
+                    .stays = arguments.value(5) == u"stays"};
+    const int result = runEvening(home, 0);
+    std::printf("%d", failingCalls.count);
+    return result;
 }
 
 /// What is wrong after a fault and the next evening; empty when nothing is. `calls` becomes the
 /// number of calls.
-QString faultAfter(const QString& library, int at, bool stays, int& calls) {
+QString faultAfter(int at, bool stays, int& calls) {
     const QTemporaryDir home;
     prepareEvenings(home.path(), people);
-    const auto counted = eveningWithFault(home.path(), library, at, stays);
+    const QStringList fault = {QString::number(at), stays ? u"stays"_s : u"once"_s};
+    const auto counted = playEvening(home.path(), 0, longest, fault);
     if (!counted)
         return u"the program crashed or hung"_s;
-    calls = *counted;
-    if (!eveningWithFault(home.path(), library, 0, false))
+    calls = counted->toInt();
+    if (!playEvening(home.path(), 0, longest))
         return u"the next evening came to nothing"_s;
     return faultOfEvenings(home.path(), people);
 }
 
-int breakEachCall(const QString& library) {
+int breakEachCall() {
     int faults = 0;
     for (const bool stays : {false, true}) {
         int calls = 1;
         for (int at = 1; at <= calls; ++at, ++faults) {
-            const QString fault = faultAfter(library, at, stays, calls);
+            const QString fault = faultAfter(at, stays, calls);
             if (!fault.isEmpty()) {
                 std::printf("Call %d fails%s: %s.\n", at, stays ? " and all that follow" : "",
                             qPrintable(fault));
@@ -78,7 +68,6 @@ int breakEachCall(const QString& library) {
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == u"evening")
-        return velmora::runEvening(arguments.value(2), arguments.value(3).toDouble());
-    return velmora::breakEachCall(arguments.value(1));
+    return arguments.value(1) == u"evening" ? velmora::runWithFault(arguments)
+                                            : velmora::breakEachCall();
 }

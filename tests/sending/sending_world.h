@@ -11,25 +11,11 @@
 #include "storage/log_lines.h"
 #include "support/rehearsal_home.h"
 #include "support/virtual_surroundings.h"
+#include "support/watched_scripts.h"
 
 namespace velmora {
 
 using namespace Qt::StringLiterals;
-
-/// Passes scripts on to the rehearsal's Messages, counts them, and lets a test look around first.
-struct CountedScripts final : ScriptRunner {
-    explicit CountedScripts(ScriptRunner& messages) : messages(messages) {}
-    [[nodiscard]] ScriptResult run(const QString& source) override {
-        ++count;
-        if (before)
-            before(source);
-        return messages.run(source);
-    }
-
-    int count = 0;
-    std::function<void(const QString& source)> before;
-    ScriptRunner& messages;
-};
 
 /// Counts the activities that are held right now.
 struct CountedActivities final : ActivitySource {
@@ -60,30 +46,35 @@ struct SendingWorld {
         static_cast<void>(home.history());
     }
 
-    /// What stands under some people's numbers in the settings of Messages.
-    void messages(const std::map<QString, QByteArray>& people) {
+    /// What Messages does with the texts to some people, by their numbers, as JSON.
+    void messages(const std::map<int, QByteArray>& behaviours) {
+        std::map<QString, QByteArray> people;
+        for (const auto& [n, json] : behaviours)
+            people[phone(n)] = json;
         home.writeMessages(messagesOnLine(line, people));
     }
 
-    /// The phone of the n-th person, from 0.
-    static QString phone(int n) { return u"+1555020%1"_s.arg(n, 4, 10, QChar(u'0')); }
+    [[nodiscard]] static QString phone(int n) { return u"+1555020%1"_s.arg(n, 4, 10, QChar(u'0')); }
 
-    static std::vector<Runner::Item> people(int count) {
+    [[nodiscard]] static std::vector<Runner::Item> people(int count) {
         std::vector<Runner::Item> items;
         for (int n = 0; n < count; ++n)
             items.push_back({u"Person %1"_s.arg(n), phone(n), u"Hello \"%1\"\n\\o/"_s.arg(n)});
         return items;
     }
 
-    void start(int count) { runner->start(batch, people(count), config); }
+    /// Has a line of the n-th person stand in the log since `secondsAgo`.
+    void store(int n, const QString& status, double secondsAgo = 0) {
+        const Moment time = clock().now() + -secondsAgo;
+        sendLog.append({{}, time, batch, {}, phone(n), u"kept"_s, {}, status, u"detail"_s});
+    }
+
+    void start(int count, const QString& name = batch) {
+        runner->start(name, people(count), config);
+    }
 
     /// Lets the time pass until the run waits for the user or has ended.
-    void settle() { EXPECT_TRUE(surroundings.clock.runUntilIdle(1e5)); }
-
-    void runAll(int count) {
-        start(count);
-        settle();
-    }
+    void settle() { EXPECT_TRUE(clock().runUntilIdle(1e5)); }
 
     /// Lets the run go on until it waits for the user, for this reason.
     void expectPaused(const QString& reason) {
@@ -98,15 +89,17 @@ struct SendingWorld {
         settle();
         EXPECT_EQ(runner->state.value(), State::done);
         EXPECT_EQ(runner->message.value(), summary);
-        EXPECT_FALSE(runner->current.value());
-        EXPECT_FALSE(runner->nextIn.value());
+        EXPECT_FALSE(runner->current.value() || runner->nextIn.value());
         EXPECT_EQ(activities.held, 0);
     }
 
-    /// The n-th line of the log, without what the test did not choose.
-    [[nodiscard]] QString outcome(size_t n) const {
-        const LogEntry& entry = runner->log().at(n);
-        return QStringList{entry.status, entry.service, entry.line, entry.detail}.join(u'|');
+    /// The lines of the log, without what the test did not choose; "me" is `line`.
+    [[nodiscard]] QStringList outcomes() const {
+        QStringList lines;
+        for (const LogEntry& each : runner->log())
+            lines += each.status + u'|' + each.service + u'|' +
+                     (each.line == line ? u"me"_s : each.line) + u'|' + each.detail;
+        return lines;
     }
 
     [[nodiscard]] QByteArray file() {
@@ -115,10 +108,10 @@ struct SendingWorld {
 
     /// The file that the displayed log would make.
     [[nodiscard]] QByteArray displayed() const {
-        QString text = u"time,batch,name,phone,service,line,status,detail\n"_s;
+        QByteArray bytes = logHeader();
         for (const LogEntry& entry : runner->log())
-            text += csvLine(entry);
-        return text.toUtf8();
+            bytes += csvLine(entry).toUtf8();
+        return bytes;
     }
 
     [[nodiscard]] std::unique_ptr<Runner> makeRunner(const QString& historyPath) {
@@ -131,7 +124,7 @@ struct SendingWorld {
     VirtualSurroundings surroundings;
     RehearsalHome home;
     MessagesApplication rehearsal{surroundings.clock, home.path()};
-    CountedScripts scripts{rehearsal};
+    WatchedScripts scripts{rehearsal};
     CountedActivities activities;
     SupportFolder folder{home.applicationSupport()};
     SendLog sendLog{folder, surroundings.clock};

@@ -38,19 +38,17 @@ TEST(SendingHours, BothEndsAreInsideAndMidnightMayBe) {
 
 // Another key or default would change the settings of everyone who updates.
 TEST(ConfigJSON, HasItsKeysAndDefaultsInCodePointOrder) {
-    const QByteArray json = encodeConfig(AppConfig()).value();
+    AppConfig config;
+    config.templates = {{u"\U0001f600"_s, {}}, {u"\uff5e"_s, {}}};
+    const QByteArray json = encodeConfig(config).value();
     EXPECT_EQ(json.simplified(),
               R"({ "delayMax": 60.0, "delayMin": 30.0, "maxFailures": 3, "maxPerRun": 60, )"
               R"("notes": {}, "picks": {}, "quietEnd": "20:00", "quietStart": "10:00", )"
-              R"("senderNumber": "", "templates": {}, "termsAccepted": "", "verifyWait": 20.0 })");
+              R"("senderNumber": "", "templates": { "～": "", "😀": "" }, )"
+              R"("termsAccepted": "", "verifyWait": 20.0 })");
     EXPECT_EQ(json.count("\n  \""), 12) << "a line for each key";
-    AppConfig ordered;
-    ordered.templates = {{u"\U0001f600"_s, {}}, {u"\uff5e"_s, {}}};
-    const QByteArray text = encodeConfig(ordered).value();
-    EXPECT_LT(text.indexOf("\uff5e"), text.indexOf("\U0001f600"));
-    AppConfig endless;
-    endless.delayMax = std::numeric_limits<double>::infinity();
-    EXPECT_EQ(encodeConfig(endless), std::nullopt);
+    config.delayMax = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(encodeConfig(config), std::nullopt);
 }
 
 // A file edited by hand must neither be misread nor lose more than it has to.
@@ -86,33 +84,36 @@ TEST(ConfigJSON, OnlyWrongTypesAndBrokenTextGiveNothing) {
 // Recursion over a hostile file overflows the stack, building all of it fills the memory, and
 // looking over the whole for each part of it takes minutes.
 TEST(ConfigJSON, SurvivesDepthAndBreadth) {
-    const QByteArray open(100'000, '[');
-    const QByteArray deep = open + QByteArray(100'000, ']');
-    EXPECT_EQ(decodeConfig(open), std::nullopt);
-    EXPECT_EQ(decodeConfig("{\"picks\":{\"g\":" + deep + "}}"), std::nullopt);
-    EXPECT_EQ(decodeConfig("{\"other\":" + deep + "}"), AppConfig());
-    EXPECT_EQ(decodeConfig("{\"picks\":" + QByteArray(5'000'000, '[')), std::nullopt);
+    const QByteArray open(5'000'000, '[');
+    const QByteArray deep = open.left(100'000) + QByteArray(100'000, ']');
+    const QByteArray list = '[' + QByteArray("{},").repeated(300'000) + "{}]";
     QByteArray members;
     for (int key = 0; key < 300'000; ++key)
         members += '"' + QByteArray::number(key) + "\":{},";
-    EXPECT_EQ(decodeConfig("{\"notes\":{" + members + "\"a\":{}}}"), std::nullopt);
-    const QByteArray list = '[' + QByteArray("{},").repeated(300'000) + "{}]";
-    EXPECT_EQ(decodeConfig(list), std::nullopt);
-    EXPECT_EQ(decodeConfig("{\"picks\":{\"g\":" + list + "}}"), std::nullopt);
-    EXPECT_EQ(decodeConfig("{\"other\":" + list + "}"), AppConfig());
+    for (const QByteArray& hostile :
+         {open, list, "{\"picks\":" + open, "{\"picks\":{\"g\":" + deep + "}}",
+          "{\"picks\":{\"g\":" + list + "}}", "{\"notes\":{" + members + "\"a\":{}}}"})
+        EXPECT_EQ(decodeConfig(hostile), std::nullopt) << hostile.left(20).constData();
+    for (const QByteArray& unknown : {deep, list})
+        EXPECT_EQ(decodeConfig("{\"other\":" + unknown + "}"), AppConfig());
 }
 
+// A name with another file than before hides who was texted; one with a slash leaves the folder.
 TEST(SafeFileStem, KeepsLettersMarksAndNumbersOfEveryScript) {
-    EXPECT_EQ(safeFileStem(u"Spring Party 2025!"_s), u"Spring-Party-2025"_s);
-    EXPECT_EQ(safeFileStem(u"../a/b\\c"_s), u"a-b-c"_s);
-    EXPECT_EQ(safeFileStem(u"_-a  b-_-"_s), u"_-a--b-_"_s);
-    EXPECT_EQ(safeFileStem(u"\u00e9e\u0301\u0928\u093f\u0663\u00bd\U00020000"_s),
-              u"\u00e9e\u0301\u0928\u093f\u0663\u00bd\U00020000"_s);
-    EXPECT_EQ(safeFileStem(u"a\U0001f600b"_s + QChar(0xd800) + u"c"_s), u"a-b-c"_s);
-    for (const QString& name : {u""_s, u"!?."_s, u"---"_s})
-        EXPECT_EQ(safeFileStem(name), u"batch"_s);
+    const QString kept = u"\u00e9e\u0301\u0928\u093f\u0663\u00bd\U00020000"_s;
+    const std::vector<std::pair<QString, QString>> cases = {
+        {u"Spring Party 2025!"_s, u"Spring-Party-2025"_s},
+        {u"../a/b\\c"_s, u"a-b-c"_s},
+        {u"_-a  b-_-"_s, u"_-a--b-_"_s},
+        {kept, kept},
+        {u"a\U0001f600b"_s + QChar(0xd800) + u"c"_s, u"a-b-c"_s},
+        {u""_s, u"batch"_s},
+        {u"!?.---"_s, u"batch"_s}};
+    for (const auto& [name, stem] : cases)
+        EXPECT_EQ(safeFileStem(name), stem);
 }
 
+// A field that takes in its neighbour, or a row that is lost, hides who was texted.
 TEST(ParseCSV, FollowsEachRule) {
     const std::vector<std::pair<QString, QString>> cases = {
         {u"a,b\r\nc,d\n"_s, u"a|b/c|d"_s},
@@ -123,8 +124,7 @@ TEST(ParseCSV, FollowsEachRule) {
         {u"\"a\",\"b\"x\"y\"\n"_s, u"a|bxy"_s},
         {u"a,\"open\n,"_s, u"a|open\n,"_s},
         {u"a\n\nb"_s, u"a//b"_s},
-        {u"a,"_s, u"a|"_s},
-    };
+        {u"a,"_s, u"a|"_s}};
     for (const auto& [text, expected] : cases) {
         QStringList rows;
         for (const QStringList& fields : parseCSV(text))
@@ -135,11 +135,10 @@ TEST(ParseCSV, FollowsEachRule) {
         EXPECT_TRUE(parseCSV(text).empty());
 }
 
-// A time an hour off after a change of the clocks, or a row that is not understood.
+// A time an hour off after a change of the clocks. What is no time is judged by tests/fuzz.
 TEST(LogTime, CarriesTheOffsetOfItsDay) {
     EXPECT_EQ(formatLogTime({763657200.99}), u"2025-03-14T11:00:00-04:00"_s);
     EXPECT_EQ(formatLogTime({-0.5}, 0), u"2000-12-31T23:59:59Z"_s);
-    EXPECT_EQ(formatLogTime({-0.5}, 60), u"2001-01-01T00:59:59+01:00"_s);
     EXPECT_EQ(formatLogTime({-0.5}, 345), u"2001-01-01T05:44:59+05:45"_s);
     EXPECT_EQ(formatLogTime({-0.5}, -210), u"2000-12-31T20:29:59-03:30"_s);
     EXPECT_EQ(formatLogTime({std::numeric_limits<double>::infinity()}).left(4), u"9999"_s);
@@ -148,15 +147,7 @@ TEST(LogTime, CarriesTheOffsetOfItsDay) {
         const Moment moment{autumn + hour * 3600};
         EXPECT_EQ(parseLogTime(formatLogTime(moment)), moment);
     }
-    EXPECT_EQ(parseLogTime(u"2025-03-14T15:00:00Z"), Moment{763657200});
     EXPECT_EQ(parseLogTime(u"2025-03-14T20:45:00+05:45"), Moment{763657200});
     EXPECT_EQ(parseLogTime(u"2024-02-29T00:00:00Z"), Moment{730857600});
-    for (const char16_t* text :
-         {u"", u"2025-03-14T15:00:00", u"2025-03-14T15:00:00.5Z", u"2025-03-14 15:00:00Z",
-          u"2025-02-29T00:00:00Z", u"2025-13-01T00:00:00Z", u"2025-03-14T24:00:00Z",
-          u"2025-03-14T15:60:00Z", u"2025-03-14T15:00:00+0100", u"2025-03-14T15:00:00Z ",
-          u" 2025-03-14T15:00:00Z", u"2025-3-14T15:00:00Z", u"2025-03-14T15:00:00+01:00x",
-          u"\u0662025-03-14T15:00:00Z", u"2025-03-14T15:00:00z"})
-        EXPECT_EQ(parseLogTime(QStringView(text)), std::nullopt)
-            << QStringView(text).toString().toStdString();
+    EXPECT_EQ(parseLogTime(u"2025-03-14T15:00:00"), std::nullopt);
 }

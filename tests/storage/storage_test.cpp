@@ -25,91 +25,74 @@ AppConfig fullConfig() {
     return config;
 }
 
-// One bit lost, or a key forgotten in reading or writing, changes settings at every start.
-TEST_F(StorageTest, SettingsThatAreSavedAreLoaded) {
+struct SettingsTest : StorageTest {
     const QString path = folder.path() + u"/config.json"_s;
+};
+
+// One bit lost, or a key forgotten in reading or writing, changes settings at every start; a failed
+// save that destroys the file loses every template and note.
+TEST_F(SettingsTest, AreLoadedAsTheyWereSavedLast) {
     EXPECT_EQ(store.load(), AppConfig());
     EXPECT_FALSE(QFile::exists(path));
     store.save(fullConfig());
     EXPECT_EQ(ConfigStore(folder).load(), fullConfig());
     EXPECT_EQ(mode(path), 0600U);
-    EXPECT_EQ(mode(folder.path()), 0700U);
-    store.save(AppConfig());
-    EXPECT_EQ(store.load(), AppConfig());
-}
-
-// A failed save that destroys the file loses every template and note.
-TEST_F(StorageTest, AFailedSaveLeavesTheOldFile) {
-    store.save(fullConfig());
-    for (const rlim_t room : {0, 100}) {
-        const auto disk = fullDisk(room);
-        store.save(AppConfig());
-    }
-    EXPECT_EQ(store.load(), fullConfig());
-    permit(folder.path() + u"/config.json"_s, 0x6644);
+    const auto save = [this] { store.save(AppConfig()); };
+    onFullDisk(0, save);
+    onFullDisk(100, save);
     permit(folder.path(), 0x5555);
-    {
-        const auto user = asOrdinaryUser();
-        store.save(AppConfig());
-        EXPECT_EQ(store.load(), fullConfig());
-    }
-    permit(folder.path(), 0x7700);
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-              QStringList{u"config.json"_s});
+    asOrdinaryUser(save);
+    EXPECT_EQ(store.load(), fullConfig());
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"config.json"_s});
+    save();
+    EXPECT_EQ(store.load(), AppConfig());
 }
 
 // What could not be used at a start is the user's all the same: a session with new settings must
 // not destroy it, nor what an earlier one kept.
-TEST_F(StorageTest, SettingsThatCannotBeUsedAreKeptBesideTheNewOnes) {
-    const QString path = folder.path() + u"/config.json"_s;
-    const auto kept = [&](const QString& number) {
-        return folder.path() + u"/config (kept%1).json"_s.arg(number);
+TEST_F(SettingsTest, ThatCannotBeUsedAreKeptBesideTheNewOnes) {
+    const QByteArray name = QFile::encodeName(path);
+    const std::vector<std::pair<QString, std::function<void()>>> obstacles = {
+        {u"understand"_s, [&] { writeTestFile(path, "{ torn"); }},
+        {u"read"_s, [&] { permit(path, 0x0000); }},
+        {u"read"_s, [&] { EXPECT_TRUE(QFile::remove(path) && QDir().mkdir(path)); }},
+        {u"read"_s, [&] { EXPECT_TRUE(QFile::remove(path) && ::mkfifo(name, 0600) == 0); }},
     };
-    const QString sentence =
-        u"Velmora couldn't %1 its settings file, which is kept as \"%2\", and "
-        "starts with new settings."_s;
-    writeTestFile(path, "{ torn");
-    EXPECT_EQ(store.load(), AppConfig());
-    EXPECT_EQ(read(path), "{ torn") << "reading writes nothing";
-    permit(folder.path(), 0x5555);
-    {
-        const auto user = asOrdinaryUser();
-        EXPECT_EQ(store.save(fullConfig()), std::nullopt);
-    }
-    permit(folder.path(), 0x7777);
-    EXPECT_EQ(read(path), "{ torn") << "replaced before it was kept";
-    EXPECT_EQ(store.save(fullConfig()), sentence.arg(u"understand"_s, kept({})));
-    EXPECT_EQ(store.save(fullConfig()), std::nullopt) << "said twice";
-    EXPECT_EQ(read(kept({})), "{ torn");
-    EXPECT_EQ(store.load(), fullConfig());
-    permit(path, 0x0000);
-    {
-        const auto user = asOrdinaryUser();
-        EXPECT_EQ(store.load(), AppConfig());
-        EXPECT_EQ(store.save(AppConfig()), sentence.arg(u"read"_s, kept(u" 2"_s)));
-    }
-    permit(kept(u" 2"_s), 0x6600);
-    EXPECT_EQ(decodeConfig(read(kept(u" 2"_s))), fullConfig());
-    for (const QString& number : {u" 3"_s, u" 4"_s}) {
-        EXPECT_TRUE(QFile::remove(path));
-        const QByteArray name = QFile::encodeName(path);
-        EXPECT_EQ(
-            number == u" 3"_s ? ::mkdir(name.constData(), 0700) : ::mkfifo(name.constData(), 0600),
-            0);
-        EXPECT_EQ(store.load(), AppConfig());
-        EXPECT_EQ(store.save(fullConfig()), sentence.arg(u"read"_s, kept(number)));
-        EXPECT_EQ(store.load(), fullConfig());
-    }
+    QStringList kept;
+    asOrdinaryUser([&] {
+        for (const auto& [verb, obstruct] : obstacles) {
+            const QString number = kept.isEmpty() ? QString() : u" %1"_s.arg(kept.size() + 1);
+            kept.append(folder.path() + u"/config (kept%1).json"_s.arg(number));
+            obstruct();
+            EXPECT_EQ(store.load(), AppConfig());
+            EXPECT_EQ(store.save(fullConfig()),
+                      u"Velmora couldn't %1 its settings file, which is kept as \"%2\", and "
+                      "starts with new settings."_s.arg(verb, kept.last()));
+            EXPECT_EQ(store.save(fullConfig()), std::nullopt) << "said twice";
+            EXPECT_EQ(store.load(), fullConfig());
+        }
+    });
+    EXPECT_EQ(read(kept[0]), "{ torn");
+    permit(kept[1], 0x6600);
+    EXPECT_EQ(decodeConfig(read(kept[1])), fullConfig());
     EXPECT_TRUE(QFile::remove(path));
     EXPECT_EQ(store.load(), AppConfig());
     EXPECT_EQ(store.save(fullConfig()), std::nullopt) << "nothing was lost";
+
+    writeTestFile(path, "{ torn");
+    permit(folder.path(), 0x5555);
+    EXPECT_EQ(store.load(), AppConfig());
+    asOrdinaryUser([this] { EXPECT_EQ(store.save(fullConfig()), std::nullopt); });
+    EXPECT_EQ(read(path), "{ torn") << "replaced before it was kept";
 }
 
-TEST_F(StorageTest, TheOlderFolderMovesOnlyIntoAFreePlace) {
+TEST(SupportFolder, TakesTheOlderOneOnlyIntoAFreePlace) {
+    const QTemporaryDir directory;
     const QString older = directory.filePath(u"Kestrune"_s);
     writeTestFile(older + u"/logs/a.csv"_s, "old");
-    EXPECT_EQ(folder.path(), directory.filePath(u"Velmora"_s));
+    EXPECT_EQ(SupportFolder(directory.path()).path(), directory.filePath(u"Velmora"_s));
     EXPECT_EQ(read(directory.filePath(u"Velmora/logs/a.csv"_s)), "old");
+    EXPECT_EQ(mode(directory.filePath(u"Velmora"_s)), 0700U);
     ASSERT_TRUE(QDir().mkpath(older));
     EXPECT_EQ(SupportFolder(directory.path()).logs(), directory.filePath(u"Velmora/logs"_s));
     EXPECT_TRUE(QFile::exists(older));

@@ -5,7 +5,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QScopeGuard>
 #include <csignal>
 
 #include "core/fresh_id.h"
@@ -19,21 +18,25 @@ namespace velmora {
 
 using namespace Qt::StringLiterals;
 
-/// Until the answer goes, no file grows beyond `bytes`: writing more fails as on a full disk.
-[[nodiscard]] inline auto fullDisk(rlim_t bytes) {
+/// Does the work while no file grows beyond `bytes`: writing more fails as on a full disk.
+template <class Work>
+void onFullDisk(rlim_t bytes, Work work) {
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit before{};
     ::getrlimit(RLIMIT_FSIZE, &before);
     const rlimit limit{bytes, before.rlim_max};
     ::setrlimit(RLIMIT_FSIZE, &limit);
-    return qScopeGuard([before] { ::setrlimit(RLIMIT_FSIZE, &before); });
+    work();
+    ::setrlimit(RLIMIT_FSIZE, &before);
 }
 
-/// Until the answer goes, permissions count: an administrator's do not, so this is somebody else.
-[[nodiscard]] inline auto asOrdinaryUser() {
+/// Does the work while permissions count: an administrator's do not, so this is somebody else.
+template <class Work>
+void asOrdinaryUser(Work work) {
     const uid_t user = ::geteuid();
     EXPECT_EQ(::seteuid(user == 0 ? 65534 : user), 0);
-    return qScopeGuard([user] { EXPECT_EQ(::seteuid(user), 0); });
+    work();
+    EXPECT_EQ(::seteuid(user), 0);
 }
 
 inline void permit(const QString& path, int permissions) {
@@ -66,19 +69,17 @@ inline LogEntry entry(const QString& phone, const QString& status = u"sent"_s,
             u"iMessage"_s, u"+19995550000"_s, status, detail};
 }
 
-/// An Application Support directory of the test's own.
+/// An Application Support directory of the test's own, whose folder any user may write to.
 class StorageTest : public ::testing::Test {
   protected:
-    StorageTest() { permit(directory.path(), 0x7755); }
+    StorageTest() {
+        permit(directory.path(), 0x7755);
+        permit(folder.path(), 0x7777);
+    }
 
     [[nodiscard]] QString logFile() { return log.logFile(party); }
     [[nodiscard]] QByteArray file() { return read(logFile()); }
     void put(const QByteArray& bytes) { writeTestFile(logFile(), bytes); }
-    void permitLogs(int fileMode, int folderMode) {
-        permit(logFile(), fileMode);
-        permit(folder.logs(), folderMode);
-        permit(folder.path(), 0x7755);
-    }
 
     QTemporaryDir directory;
     SupportFolder folder{directory.path()};

@@ -1,12 +1,16 @@
 #include "support/evening.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QProcess>
 #include <algorithm>
 
 #include "app/app_model.h"
 #include "platform/rehearsal/rehearsal_platform.h"
+#include "platform/rehearsal/script_parser.h"
 #include "support/rehearsal_home.h"
 #include "support/virtual_surroundings.h"
+#include "support/watched_scripts.h"
 
 namespace velmora {
 
@@ -19,34 +23,21 @@ QString phoneOf(int n) {
     return u"+1555020%1"_s.arg(n, 4, 10, QChar(u'0'));
 }
 
-/// Keeps a list of its own of what Messages was handed: a rehearsal's Messages ends with it.
-class WitnessedScripts final : public ScriptRunner {
-  public:
-    WitnessedScripts(ScriptRunner& messages, const QString& path)
-        : messages_(messages), file_(path) {
-        if (!file_.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
-            qFatal("The list of texts cannot be opened.");
-    }
-    [[nodiscard]] ScriptResult run(const QString& source) override {
-        const QString service = source.contains(u"service type = SMS") ? u"SMS"_s : u"iMessage"_s;
-        file_.write(
-            (source.section(u"participant \""_s, 1).section(u'"', 0, 0) + u' ' + service + u'\n')
-                .toUtf8());
-        return messages_.run(source);
-    }
-
-  private:
-    ScriptRunner& messages_;
-    QFile file_;
-};
-
 }  // namespace
 
 int runEvening(const QString& home, double day) {
     VirtualSurroundings world;
     world.clock.shiftWall(day * 86400);
     Platform platform = makeRehearsalPlatform(world.clock, home);
-    WitnessedScripts scripts(*platform.scripts, home + u"/handed"_s);
+    WatchedScripts scripts(*platform.scripts);
+    // A list that outlives the process: a rehearsal's Messages ends with it.
+    QFile handed(home + u"/handed"_s);
+    if (!handed.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
+        return 1;
+    scripts.before = [&handed](const QString& source) {
+        const auto text = parseMessageScript(source).value();
+        handed.write((text.phone + u' ' + serviceName(text.service) + u'\n').toUtf8());
+    };
     AppModel model(
         Doors{*platform.contacts, scripts, *platform.accountPreferences, *platform.desktop},
         world.handed(), Places{platform.home, platform.applicationSupport});
@@ -62,6 +53,21 @@ int runEvening(const QString& home, double day) {
     });
     model.startRun();
     return world.clock.runUntilIdle() ? 0 : 1;
+}
+
+std::optional<QByteArray> playEvening(const QString& home, int day, int milliseconds,
+                                      const QStringList& more) {
+    QProcess evening;
+    evening.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    evening.start(QCoreApplication::applicationFilePath(),
+                  QStringList{u"evening"_s, home, QString::number(day)} + more);
+    if (!evening.waitForFinished(milliseconds)) {
+        evening.kill();
+        evening.waitForFinished(-1);
+    }
+    if (evening.exitStatus() != QProcess::NormalExit || evening.exitCode() != 0)
+        return std::nullopt;
+    return evening.readAllStandardOutput();
 }
 
 void prepareEvenings(const QString& home, int people) {
@@ -100,8 +106,7 @@ QString faultOfEvenings(const QString& home, int people) {
         if (texts > 1 || fallbacks > 1 || (fallbacks > 0 && n % 2 == 0))
             return u"%1 got %2 texts and %3 fallbacks"_s.arg(phone).arg(texts).arg(fallbacks);
         if (std::ranges::count(lines, phone, &LogEntry::phone) != 1)
-            return u"%1 stands in the log %2 times"_s.arg(phone).arg(
-                std::ranges::count(lines, phone, &LogEntry::phone));
+            return u"%1 stands in the log never or twice"_s.arg(phone);
     }
     if (ConfigStore(folder).load().senderNumber != line)
         return u"the settings are not whole"_s;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
+#include <optional>
 
 namespace velmora {
 
@@ -14,6 +16,12 @@ void prepareEvenings(const QString& home, int people);
 /// resumes every pause. Time flies, so that what happens to the program finds it at work and not
 /// asleep. 0 when the run has ended.
 [[nodiscard]] int runEvening(const QString& home, double day);
+
+/// An evening in a process of its own: this program with the arguments "evening", `home`, `day` and
+/// `more`, killed after so many milliseconds (-1: never). What it wrote on its standard output;
+/// nothing when it did not come to a good end.
+[[nodiscard]] std::optional<QByteArray> playEvening(const QString& home, int day, int milliseconds,
+                                                    const QStringList& more = {});
 
 /// What is wrong with what the evenings left; empty when nothing is: nobody was texted twice,
 /// everybody stands in the log once, and settings, log and history are whole.
