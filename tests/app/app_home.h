@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonValue>
+#include <QLocale>
+#include <QScopeGuard>
 
 #include "app/app_model.h"
 #include "platform/rehearsal/rehearsal_platform.h"
@@ -17,6 +19,13 @@ using namespace Qt::StringLiterals;
 
 inline const QString myLine = u"+12125559999"_s;
 inline const QString myOtherLine = u"+12125558888"_s;
+
+/// Has the interface speak that language as long as the answer lives.
+[[nodiscard]] inline auto speaking(const QString& language) {
+    const QLocale before;
+    QLocale::setDefault(QLocale(language));
+    return qScopeGuard([before] { QLocale::setDefault(before); });
+}
 
 /// The person with one more field.
 inline QByteArray with(const QByteArray& key, const QByteArray& value, QByteArray person) {

@@ -5,28 +5,23 @@
 #include "app/app_home.h"
 #include "ui/controls/clock_fields.h"
 #include "ui/controls/number_text.h"
-#include "ui/language.h"
 
 namespace velmora {
 namespace {
 
 using Settings = AppHome;
 
-// Catches a wrong count, a chosen number that vanishes because this computer does not know it any
-// more, and a choice that stores another number or leaves the people checked against the old one.
+// Catches a chosen number that vanishes because this computer does not know it any more, and a
+// choice that stores another number or leaves the people checked against the old one.
 TEST_F(Settings, OffersTheNumbersAndChecksTheListAgainstTheChosenOne) {
     SettingsModel view(withFriends());
     model->numbers = {{myLine, 42}, {myOtherLine, 0}};
-    EXPECT_EQ(view.senderOptions(),
-              (QStringList{u"Choose a number"_s, u"(212) 555-9999  (42 messages)"_s,
-                           u"(212) 555-8888"_s}));
-    EXPECT_EQ(view.senderIndex(), 1);
-    const std::optional<QString> before = recipient(u"ann"_s).issue;
+    EXPECT_EQ(view.senderOptions().join(u'|'),
+              u"Choose a number|(212) 555-9999  (42 messages)|(212) 555-8888"_s);
     for (const int place : {2, 3})
         view.chooseSender(place);
     EXPECT_EQ(stored().senderNumber, myOtherLine);
-    EXPECT_NE(recipient(u"ann"_s).issue, before);
-
+    EXPECT_TRUE(recipient(u"ann"_s).issue) << "her thread is on the other line";
     model->setSenderNumber(u"+12125557777"_s);
     EXPECT_EQ(view.senderOptions().last(), u"(212) 555-7777  (not found on this Mac)"_s);
     EXPECT_EQ(view.senderIndex(), 3);
@@ -54,8 +49,8 @@ TEST_F(Settings, PacingIsStoredAndATestSentButNotDuringARun) {
     EXPECT_EQ((QList{before.delayMin, before.delayMax}), (QList{45.5, 120.0}));
     EXPECT_EQ(before.quietStart + u'-' + before.quietEnd, u"07:05-21:30"_s);
     EXPECT_EQ(before.maxFailures, 10);
-    EXPECT_EQ((QList{view.startHour(), view.startMinute(), view.endHour(), view.endMinute()}),
-              (QList{7, 5, 21, 30}));
+    const QList shown{view.startHour(), view.startMinute(), view.endHour(), view.endMinute()};
+    EXPECT_EQ(shown, (QList{7, 5, 21, 30}));
 
     const QString phone = u"(212) 555-0102"_s;
     view.setTestPhone(phone);
