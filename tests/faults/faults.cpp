@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace velmora {
+using namespace velmora;
 
 namespace {
 
@@ -63,11 +63,9 @@ int breakEachCall() {
 
 }  // namespace
 
-}  // namespace velmora
-
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    return arguments.value(1) == u"evening" ? velmora::runWithFault(arguments)
-                                            : velmora::breakEachCall();
+    return arguments.value(1) == u"evening" ? runWithFault(arguments)
+                                            : breakEachCall();
 }
