@@ -2,16 +2,157 @@
 // five with settings saved and lines settled, and has the next evening put things right. Nobody may
 // be texted twice, and no line be lost.
 
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QTemporaryDir>
+#include <array>
+#include <cerrno>
+#include <cstdarg>
 #include <cstdio>
+#include <string>
 
-#include "faults/failing_calls.h"
 #include "support/evening.h"
 
 using namespace Qt::StringLiterals;
 
-namespace velmora {
+using namespace velmora;
+
+namespace {
+
+/// What befalls this process's calls on files.
+struct FailingCalls {
+    std::string folder;  ///< below which calls are counted; none are while it is empty
+    int at = 0;          ///< the number of the call that fails, the first is 1; 0: none
+    bool stays = false;  ///< all that follow fail as well
+    int count = 0;       ///< the calls until now
+} failingCalls;
+
+std::array<bool, 1024> watched{};  // by descriptor
+
+bool isOurs(const char* path) {
+    return !failingCalls.folder.empty() && std::string_view(path).starts_with(failingCalls.folder);
+}
+
+bool isOurs(int handle) {
+    return handle >= 0 && handle < std::ssize(watched) && watched[static_cast<size_t>(handle)];
+}
+
+void watch(int handle, bool ours) {
+    if (handle >= 0 && handle < std::ssize(watched))
+        watched[static_cast<size_t>(handle)] = ours;
+}
+
+// Whether this call is to fail; `error` is what it then says.
+bool fails(int error) {
+    const int call = ++failingCalls.count;
+    const int at = failingCalls.at;
+    if (at == 0 || (failingCalls.stays ? call < at : call != at))
+        return false;
+    errno = error;
+    return true;
+}
+
+template <class Function>
+Function* real(const char* name) {
+    return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
+}
+
+int opened(const char* name, const char* path, int flags, va_list rest) {
+    const mode_t mode = va_arg(rest, mode_t);
+    if (isOurs(path) && fails((flags & O_CREAT) != 0 ? ENOSPC : EIO))
+        return -1;
+    const int handle = real<int(const char*, int, ...)>(name)(path, flags, mode);
+    watch(handle, isOurs(path));
+    return handle;
+}
+
+// Passes a call on a file, by its path or its descriptor, on to the C library.
+template <class Result = int, class File, class... Arguments>
+Result passOn(const char* name, File file, Arguments... arguments) {
+    if (isOurs(file) && fails(EIO))
+        return -1;
+    return real<Result(File, Arguments...)>(name)(file, arguments...);
+}
+
+}  // namespace
+
+// These take the place of the C library's, for the toolkit's and SQLite's calls, too.
+extern "C" {
+
+int open(const char* path, int flags, ...) {
+    va_list rest;
+    va_start(rest, flags);
+    const int handle = opened("open", path, flags, rest);
+    va_end(rest);
+    return handle;
+}
+int open64(const char* path, int flags, ...) {
+    va_list rest;
+    va_start(rest, flags);
+    const int handle = opened("open64", path, flags, rest);
+    va_end(rest);
+    return handle;
+}
+ssize_t read(int handle, void* bytes, size_t size) {
+    return passOn<ssize_t>("read", handle, bytes, size);
+}
+ssize_t write(int handle, const void* bytes, size_t size) {
+    const bool failed = isOurs(handle) && fails(ENOSPC);
+    if (failed && size < 2)
+        return -1;
+    // As on a full disk, the first part may be there.
+    return real<ssize_t(int, const void*, size_t)>("write")(handle, bytes, failed ? 1 : size);
+}
+int close(int handle) {
+    const bool failed = isOurs(handle) && fails(EIO);
+    watch(handle, false);
+    const int result = real<int(int)>("close")(handle);
+    return failed ? -1 : result;
+}
+int fsync(int handle) {
+    return passOn("fsync", handle);
+}
+int ftruncate(int handle, off_t size) noexcept {
+    return passOn("ftruncate", handle, size);
+}
+int fstat(int handle, struct stat* status) noexcept {
+    return passOn("fstat", handle, status);
+}
+int stat(const char* path, struct stat* status) noexcept {
+    return passOn("stat", path, status);
+}
+int lstat(const char* path, struct stat* status) noexcept {
+    return passOn("lstat", path, status);
+}
+int rename(const char* from, const char* to) noexcept {
+    return passOn("rename", from, to);
+}
+int unlink(const char* path) noexcept {
+    return passOn("unlink", path);
+}
+int mkdir(const char* path, mode_t mode) noexcept {
+    return passOn("mkdir", path, mode);
+}
+int chmod(const char* path, mode_t mode) noexcept {
+    return passOn("chmod", path, mode);
+}
+int faccessat(int folder, const char* path, int mode, int flags) noexcept {
+    if (isOurs(path) && fails(EIO))
+        return -1;
+    return real<int(int, const char*, int, int)>("faccessat")(folder, path, mode, flags);
+}
+// What the toolkit asks about a path.
+int statx(int folder, const char* path, int flags, unsigned mask, struct statx* status) noexcept {
+    if (isOurs(path) && fails(EIO))
+        return -1;
+    return real<int(int, const char*, int, unsigned, struct statx*)>("statx")(folder, path, flags,
+                                                                              mask, status);
+}
+}
 
 namespace {
 
@@ -63,11 +204,8 @@ int breakEachCall() {
 
 }  // namespace
 
-}  // namespace velmora
-
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    return arguments.value(1) == u"evening" ? velmora::runWithFault(arguments)
-                                            : velmora::breakEachCall();
+    return arguments.value(1) == u"evening" ? runWithFault(arguments) : breakEachCall();
 }

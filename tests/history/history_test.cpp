@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QJsonDocument>
 #include <limits>
 
 #include "history/account_preferences.h"
@@ -9,65 +10,65 @@
 #include "support/rehearsal_home.h"
 #include "support/virtual_surroundings.h"
 
-using namespace Qt::StringLiterals;
-
 namespace velmora {
 namespace {
 
 using Range = std::numeric_limits<qint64>;
+using Real = std::numeric_limits<double>;
 
 const QString annsPhone = u"+15551234567"_s;
+const SentRecord noRecord{u"none"_s, {}};
 
 /// A history file of its own for each test. Whoever writes to it closes it again, so that its bytes
 /// are all in the one file.
-class MessagesDBTest : public ::testing::Test {
-  protected:
+struct MessagesDBTest : ::testing::Test {
     qint64 record(const HistoryMessage& message, ChatStyle style = ChatStyle::oneToOne) {
         return HistoryWriter::open(path).value().add(message, style).value();
     }
-    auto change(const char* sql) { return changeHistory(path, sql); }
     [[nodiscard]] MessagesDB open() const { return MessagesDB::open(path).value(); }
-    [[nodiscard]] QString whyNotOpened() const {
-        const auto history = MessagesDB::open(path);
-        return history ? u"opened"_s : history.error().description();
-    }
     /// The line of Ann's thread.
     [[nodiscard]] std::optional<QString> threadLine(const QStringList& otherHandles = {}) const {
         const auto thread = open().thread(annsPhone, otherHandles).value();
         return thread.transform([](const ThreadInfo& found) { return found.line; });
+    }
+    /// What was last sent to Ann since then.
+    [[nodiscard]] SentRecord lastSent(qint64 since) const {
+        return open().lastSent(annsPhone, since)->value_or(noRecord);
     }
 
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"chat.db"_s);
 };
 
+// A record is looked for from the wrong moment on, or beyond all.
 TEST(HistoryTimestamp, IsCutTowardZeroAndStaysInRange) {
     EXPECT_EQ(historyTimestamp({763657200.5}), 763657200'500'000'000);
     EXPECT_EQ(historyTimestamp({1.5e-9}), 1);
     EXPECT_EQ(historyTimestamp({-1.5e-9}), -1);
     EXPECT_EQ(historyTimestamp({1e300}), Range::max());
     EXPECT_EQ(historyTimestamp({-1e300}), Range::min());
-    EXPECT_EQ(historyTimestamp({std::numeric_limits<double>::quiet_NaN()}), Range::max());
+    EXPECT_EQ(historyTimestamp({Real::quiet_NaN()}), Range::max());
 }
 
-TEST(HandleVariants, KeepTheirOrderAndDuplicates) {
-    EXPECT_EQ(handleVariants(annsPhone).join(u' '), u"+15551234567 15551234567 5551234567");
-    EXPECT_EQ(handleVariants(u"+447700900123"_s).join(u' '), u"+447700900123 447700900123");
-    EXPECT_EQ(handleVariants(u"++1555"_s).join(u' '), u"++1555 1555");
-    EXPECT_EQ(handleVariants(u"1555"_s).join(u' '), u"1555 1555");
-}
-
+// A failure told in other words, or one where there is none.
 TEST_F(MessagesDBTest, SaysInASentenceWhyItCannotBeRead) {
-    EXPECT_EQ(whyNotOpened(), u"Couldn't open Messages history: unable to open database file");
+    const auto expectFailure = [this](const QString& sentence) {
+        const auto history = MessagesDB::open(path);
+        EXPECT_EQ(history ? u"opened"_s : history.error().description(), sentence);
+    };
+    expectFailure(u"Couldn't open Messages history: unable to open database file"_s);
     EXPECT_FALSE(QFile::exists(path)) << "opening made a file";
     writeTestFile(path, "no database, but long enough to be looked at as if it were one");
-    EXPECT_EQ(whyNotOpened(), u"Couldn't read Messages history: file is not a database");
+    expectFailure(u"Couldn't read Messages history: file is not a database"_s);
     writeTestFile(path, "");
-    EXPECT_EQ(whyNotOpened(), u"Couldn't read Messages history: no such table: message");
-    change("CREATE TABLE message (a)");
-    EXPECT_EQ(whyNotOpened(), u"opened") << "no row is no failure";
-    const auto writer = change("BEGIN EXCLUSIVE");
-    EXPECT_EQ(whyNotOpened(), u"Couldn't read Messages history: database is locked");
+    expectFailure(u"Couldn't read Messages history: no such table: message"_s);
+    changeHistory(path, "CREATE TABLE message (a)");
+    expectFailure(u"opened"_s);
+    EXPECT_EQ(open().lastSent(annsPhone, 7).error().description(),
+              u"Couldn't read Messages history: no such table: handle");
+    EXPECT_FALSE(open().thread(annsPhone, {}).has_value());
+    const auto writer = changeHistory(path, "BEGIN EXCLUSIVE");
+    expectFailure(u"Couldn't read Messages history: database is locked"_s);
 }
 
 // A view without end would hold the window up for ever; more addresses than SQLite takes at once
@@ -87,6 +88,7 @@ TEST_F(MessagesDBTest, AnswersInTimeAndAboutAnyNumberOfAddresses) {
     EXPECT_EQ(threadLine(addresses), u"+new");
 }
 
+// A value that is read as another, and a history that reading changes.
 TEST_F(MessagesDBTest, ReadsEachColumnByItsStorageAndLeavesTheFileAsItWas) {
     record({.handle = annsPhone});
     const QByteArray before = readFile(path).value();
@@ -102,6 +104,7 @@ TEST_F(MessagesDBTest, ReadsEachColumnByItsStorageAndLeavesTheFileAsItWas) {
     EXPECT_EQ(readFile(path), before);
 }
 
+// A number that is not the user's any more, or none at all, offered to send from.
 TEST_F(MessagesDBTest, SenderNumbersAreTheSixBusiestUsedInNinetyDays) {
     const Moment now{763657200};
     const qint64 oldest = historyTimestamp(now) - 90 * 86400 * 1'000'000'000LL;
@@ -116,14 +119,17 @@ TEST_F(MessagesDBTest, SenderNumbersAreTheSixBusiestUsedInNinetyDays) {
     record({.handle = annsPhone, .date = oldest});
     EXPECT_EQ(open().senderNumbers(now).value(), (std::vector<NumberInfo>{{u"+1"_s, 2}}));
     EXPECT_EQ(open().senderNumbers({-1e300}).value().size(), 2) << "no bound lies before all time";
-    for (int number = 3; number <= 9; ++number)
+    std::vector<NumberInfo> busiest;
+    for (int number = 9; number >= 3; --number) {
+        busiest.push_back({u"+%1"_s.arg(number), number});
         for (int message = 0; message < number; ++message)
-            add(u"+%1"_s.arg(number), oldest, true);
-    const std::vector<NumberInfo> busiest{{u"+9"_s, 9}, {u"+8"_s, 8}, {u"+7"_s, 7},
-                                          {u"+6"_s, 6}, {u"+5"_s, 5}, {u"+4"_s, 4}};
+            add(busiest.back().number, oldest, true);
+    }
+    busiest.pop_back();
     EXPECT_EQ(open().senderNumbers(now).value(), busiest);
 }
 
+// A service or a line of another person, of a group, or of a text that failed.
 TEST_F(MessagesDBTest, ThreadIsTheNewestGoodMessageOfAOneToOneChat) {
     record({.handle = annsPhone, .line = u"+group"_s, .date = 9}, ChatStyle::group);
     EXPECT_EQ(threadLine(), std::nullopt);
@@ -138,33 +144,28 @@ TEST_F(MessagesDBTest, ThreadIsTheNewestGoodMessageOfAOneToOneChat) {
     const auto inCapitals = open().thread(annsPhone, {u"ANN@example.com"_s}).value();
     EXPECT_EQ(inCapitals.value_or(ThreadInfo()).service, u"SMS");
     EXPECT_EQ(threadLine({u"Ann@Example.com"_s, u"Cy@example.com"_s}), u"+asTyped");
-    change("DROP TABLE handle");
-    EXPECT_EQ(open().thread(annsPhone, {}).error().description(),
-              u"Couldn't read Messages history: no such table: handle");
 }
 
+// A text confirmed by an earlier one, by another person's or by one that came in.
 TEST_F(MessagesDBTest, LastSentIsTheNewestFromMeSinceThen) {
     record({.handle = u"15551234567"_s, .date = 5, .error = 22});
-    EXPECT_EQ(open().lastSent(annsPhone, 5).value().value_or(SentRecord()).error, 22);
+    EXPECT_EQ(lastSent(5).error, 22);
     record({.handle = annsPhone, .service = u"SMS"_s, .line = u"+1"_s, .date = 7, .sent = true});
     record({.handle = annsPhone, .date = 9, .fromMe = false});
     record({.handle = u"+15550000000"_s, .date = 9});
-    EXPECT_FALSE(open().lastSent(annsPhone, 8).value().has_value());
-    const SentRecord newest = open().lastSent(annsPhone, 7).value().value_or(SentRecord());
+    EXPECT_EQ(lastSent(8).service, u"none");
+    const SentRecord newest = lastSent(7);
     EXPECT_EQ(newest.service + newest.line, u"SMS+1");
     EXPECT_TRUE(newest.sent && !newest.delivered && newest.error == 0);
-    change(R"(UPDATE message SET service = x'41', destination_caller_id = 1.5, error = 'x',
-              is_sent = 0.5, is_delivered = -2)");
-    const SentRecord odd = open().lastSent(annsPhone, 7).value().value_or(SentRecord());
+    changeHistory(path, R"(UPDATE message SET service = x'41', destination_caller_id = 1.5,
+                           error = 'x', is_sent = 0.5, is_delivered = -2)");
+    const SentRecord odd = lastSent(7);
     EXPECT_TRUE(odd.service.isEmpty() && odd.error == 0 && !odd.sent && odd.delivered);
-    change("DROP TABLE handle");
-    EXPECT_FALSE(open().lastSent(annsPhone, 7).has_value());
 }
 
-class SentRecordWait : public MessagesDBTest {
-  protected:
+struct SentRecordWait : MessagesDBTest {
     /// Waits for Ann's record since 10 and expects the answer after so many seconds.
-    std::optional<SentRecord> wait(double timeout, double expectedSeconds) {
+    SentRecord wait(double timeout, double expectedSeconds) {
         const double start = world.clock.uptime();
         double end = -1;
         std::optional<SentRecord> answer;
@@ -175,75 +176,56 @@ class SentRecordWait : public MessagesDBTest {
             });
         EXPECT_TRUE(world.clock.runUntilIdle());
         EXPECT_EQ(end - start, expectedSeconds);
-        return answer;
-    }
-    void settleAfter(double seconds, bool sent, bool delivered) {
-        world.clock.after(seconds, [=, this, row = record(pending)] {
-            EXPECT_TRUE(HistoryWriter::open(path)->setFlags(row, sent, delivered).has_value());
-        });
+        return answer.value_or(noRecord);
     }
 
     const HistoryMessage pending{.handle = annsPhone, .date = 10};
     VirtualSurroundings world;
 };
 
+// An answer that comes late, too early or never, and one from a file that is gone.
 TEST_F(SentRecordWait, EndsAtTheFirstReadingThatSettlesItOrAfterTheTimeout) {
-    constexpr double endless = std::numeric_limits<double>::infinity();
-    for (const double none : {0.0, -1.0, std::numeric_limits<double>::quiet_NaN()})
-        EXPECT_FALSE(wait(none, 0).has_value());
-    EXPECT_FALSE(wait(5, 6).has_value()) << "no history at all";
-    settleAfter(3, true, false);
-    EXPECT_TRUE(wait(20, 4).value_or(SentRecord()).sent);
-    settleAfter(1, false, true);
-    EXPECT_TRUE(wait(endless, 2).value_or(SentRecord()).delivered);
-    record(pending);
-    EXPECT_FALSE(wait(5, 6).value_or(SentRecord{{}, {}, 1}).isConclusive());
-    EXPECT_TRUE(wait(1e308, 3600).has_value()) << "a run that can never be stopped";
+    for (const double none : {0.0, -1.0, Real::quiet_NaN()})
+        EXPECT_EQ(wait(none, 0).service, u"none");
+    EXPECT_EQ(wait(5, 6).service, u"none") << "no history at all";
+    const qint64 row = record(pending);
+    EXPECT_FALSE(wait(5, 6).isConclusive());
+    EXPECT_EQ(wait(1e308, 3600).service, u"iMessage") << "a run that can never be stopped";
     world.clock.after(1, [this] { world.clock.shiftWall(3600); });
-    EXPECT_TRUE(wait(4, 4).has_value()) << "setting the wall clock changes how long it waits";
-    record({.handle = annsPhone, .date = 11, .error = 5});
-    EXPECT_EQ(wait(1e300, 0).value_or(SentRecord()).error, 5);
-}
-
-TEST_F(SentRecordWait, ReadsTheFileThatIsThereAtEachReading) {
-    for (const char* rest : {"", "no database, as a crash may leave it"}) {
-        QFile::remove(path);
-        record(pending);
-        world.clock.after(3, [this, rest] { writeTestFile(path, rest); });
-        EXPECT_FALSE(wait(5, 6).has_value()) << rest;
-    }
+    EXPECT_FALSE(wait(4, 4).isConclusive()) << "setting the wall clock changes how long it waits";
+    world.clock.after(3,
+                      [&] { EXPECT_TRUE(HistoryWriter::open(path)->setFlags(row, true, false)); });
+    EXPECT_TRUE(wait(Real::infinity(), 4).sent);
+    world.clock.after(0, [this] { writeTestFile(path, "no database, as a crash may leave it"); });
+    EXPECT_EQ(wait(5, 6).service, u"none");
     world.clock.after(1, [this] { QFile::remove(path); });
     world.clock.after(3, [this] { record({.handle = annsPhone, .date = 12, .delivered = true}); });
-    EXPECT_TRUE(wait(20, 4).value_or(SentRecord()).delivered);
+    EXPECT_TRUE(wait(20, 4).delivered);
+    record({.handle = annsPhone, .date = 13, .error = 5});
+    EXPECT_EQ(wait(1e300, 0).error, 5);
 }
 
-struct StoredAliases final : AccountPreferences {
-    explicit StoredAliases(QVariant value) : value(std::move(value)) {}
-    [[nodiscard]] QVariant aliases() const override { return value; }
-
-    QVariant value;
-};
-
-QStringList aliasesOf(const QVariant& selected, const QVariant& all) {
-    return phoneAliases(
-        StoredAliases(QVariantMap{{u"selectedAliases"_s, selected}, {u"allAliases"_s, all}}));
-}
-
+// A number that is not the user's, or none although the account has some.
 TEST(PhoneAliases, AreTheSelectedNumbersElseAllAndNoneWithoutAList) {
-    const QStringList all{u"ann@example.com"_s, u"+1"_s, u"+2"_s};
-    const QStringList selected{u"+2"_s};
-    EXPECT_EQ(aliasesOf(QStringList{u"+2"_s, u"a@b.c"_s, u"+1"_s}, all),
-              (QStringList{u"+2"_s, u"+1"_s}));
-    EXPECT_EQ(aliasesOf(QVariantList{u"+2"_s}, QVariantList{u"+1"_s}), selected);
-    // No number, another type, not only texts.
-    for (const QVariant& useless :
-         {QVariant(QStringList{all[0]}), QVariant(u"+2"_s), QVariant(QVariantList{u"+2"_s, 7})})
-        EXPECT_EQ(aliasesOf(useless, all), all.sliced(1));
-    EXPECT_EQ(aliasesOf({}, QStringList{all[0]}), QStringList());
-    for (const QVariant& noList : {QVariant(), QVariant(QVariantList{u"+1"_s, 7})})
-        EXPECT_EQ(aliasesOf(selected, noList), QStringList());
-    for (const QVariant& value : {QVariant(), QVariant(u"+1"_s), QVariant(QVariantMap())})
-        EXPECT_EQ(phoneAliases(StoredAliases(value)), QStringList());
+    struct StoredAliases final : AccountPreferences {
+        [[nodiscard]] QVariant aliases() const override { return value; }
+        QVariant value;
+    } stored;
+    const std::vector<std::pair<QByteArray, QString>> cases = {
+        {R"({"selectedAliases": ["+2", "a@b.c", "+1"], "allAliases": ["+1"]})", u"+2 +1"_s},
+        {R"({"selectedAliases": ["a@b.c"], "allAliases": ["a@b.c", "+1", "+2"]})", u"+1 +2"_s},
+        {R"({"selectedAliases": "+2", "allAliases": ["+1"]})", u"+1"_s},
+        {R"({"selectedAliases": ["+2", 7], "allAliases": ["+1"]})", u"+1"_s},
+        {R"({"selectedAliases": ["+2"], "allAliases": ["+1", 7]})", {}},
+        {R"({"selectedAliases": ["+2"]})", {}},
+        {R"({"allAliases": ["a@b.c"]})", {}},
+        {R"(["+1"])", {}}};
+    for (const auto& [json, phones] : cases) {
+        stored.value = QJsonDocument::fromJson(json).toVariant();
+        EXPECT_EQ(phoneAliases(stored).join(u' '), phones) << json.constData();
+    }
+    stored.value = QVariantMap{{u"allAliases"_s, QStringList{u"+1"_s}}};
+    EXPECT_EQ(phoneAliases(stored), QStringList{u"+1"_s});
 }
 
 }  // namespace

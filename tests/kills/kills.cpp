@@ -10,7 +10,9 @@
 
 #include "support/evening.h"
 
-namespace velmora {
+using namespace Qt::StringLiterals;
+
+using namespace velmora;
 
 namespace {
 
@@ -28,12 +30,12 @@ QString faultOfKills(int& kills, int wanted, std::mt19937& random) {
         if (playEvening(home.path(), day, isLast ? -1 : longest))
             return faultOfEvenings(home.path(), people);
         if (isLast)
-            return QStringLiteral("an evening without a kill came to nothing");
+            return u"an evening without a kill came to nothing"_s;
         ++kills;
     }
 }
 
-int kill(int wanted, unsigned seed) {
+int killAtRandom(int wanted, unsigned seed) {
     std::mt19937 random(seed);
     int kills = 0;
     int homes = 0;
@@ -50,13 +52,11 @@ int kill(int wanted, unsigned seed) {
 
 }  // namespace
 
-}  // namespace velmora
-
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == u"evening")
-        return velmora::runEvening(arguments.value(2), arguments.value(3).toDouble());
+        return runEvening(arguments.value(2), arguments.value(3).toDouble());
     const unsigned seed = arguments.size() > 2 ? arguments[2].toUInt() : std::random_device()();
-    return velmora::kill(std::max(arguments.value(1).toInt(), 1), seed);
+    return killAtRandom(std::max(arguments.value(1).toInt(), 1), seed);
 }

@@ -10,7 +10,9 @@
 #include "platform/rehearsal/script_parser.h"
 #include "sending/sending_world.h"
 
-namespace velmora {
+using namespace Qt::StringLiterals;
+
+using namespace velmora;
 
 namespace {
 
@@ -220,10 +222,8 @@ int runMany(unsigned wanted, unsigned first) {
 
 }  // namespace
 
-}  // namespace velmora
-
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    return velmora::runMany(arguments.value(1).toUInt(), arguments.value(2).toUInt());
+    return runMany(arguments.value(1).toUInt(), arguments.value(2).toUInt());
 }

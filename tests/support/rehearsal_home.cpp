@@ -6,10 +6,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
-#include <stdexcept>
+#include <QVariantMap>
 
 using namespace Qt::StringLiterals;
 
@@ -17,14 +15,14 @@ namespace velmora {
 
 namespace {
 
-QByteArray jsonOf(const QJsonObject& object) {
-    return QJsonDocument(object).toJson(QJsonDocument::Indented);
+QByteArray jsonOf(const QVariantMap& object) {
+    return QJsonDocument::fromVariant(object).toJson();
 }
 
-QJsonObject objectOf(const QByteArray& json) {
+QVariant valueOf(const QByteArray& json) {
     const QJsonDocument document = QJsonDocument::fromJson(json);
     EXPECT_TRUE(document.isObject()) << json.constData();
-    return document.object();
+    return document.toVariant();
 }
 
 }  // namespace
@@ -44,51 +42,43 @@ std::unique_ptr<sqlite3, int (*)(sqlite3*)> changeHistory(const QString& path, c
 }
 
 HistoryWriter& RehearsalHome::history() {
-    if (!history_) {
-        auto opened = HistoryWriter::open(historyPath());
-        if (!opened)
-            throw std::runtime_error(opened.error().description.toStdString());
-        history_.emplace(std::move(*opened));
-    }
+    if (!history_)
+        history_.emplace(HistoryWriter::open(historyPath()).value());
     return *history_;
 }
 
 qint64 RehearsalHome::record(const HistoryMessage& message, ChatStyle style) {
-    const auto row = history().add(message, style);
-    EXPECT_TRUE(row.has_value());
-    return row.value_or(0);
+    return history().add(message, style).value();
 }
 
 QByteArray person(const QString& identifier, const QString& givenName, const QString& familyName,
                   const QString& phone, const QStringList& emailAddresses) {
-    QJsonObject object{{u"identifier"_s, identifier},
-                       {u"givenName"_s, givenName},
-                       {u"familyName"_s, familyName},
-                       {u"emailAddresses"_s, QJsonArray::fromStringList(emailAddresses)}};
-    if (!phone.isEmpty()) {
-        const QJsonObject entry{{u"label"_s, u"_$!<Mobile>!$_"_s}, {u"value"_s, phone}};
-        object.insert(u"phoneNumbers"_s, QJsonArray{entry});
-    }
-    return jsonOf(object);
+    QVariantMap card{{u"identifier"_s, identifier},
+                     {u"givenName"_s, givenName},
+                     {u"familyName"_s, familyName},
+                     {u"emailAddresses"_s, emailAddresses}};
+    const QVariantMap number{{u"label"_s, u"_$!<Mobile>!$_"_s}, {u"value"_s, phone}};
+    if (!phone.isEmpty())
+        card[u"phoneNumbers"_s] = QVariantList{number};
+    return jsonOf(card);
 }
 
 QByteArray addressBook(const std::vector<QByteArray>& people,
                        const std::vector<RehearsalGroup>& groups) {
-    QJsonArray contacts;
+    QVariantList contacts;
     for (const QByteArray& each : people)
-        contacts.append(objectOf(each));
-    QJsonArray groupObjects;
-    for (const RehearsalGroup& group : groups)
-        groupObjects.append(QJsonObject{{u"identifier"_s, group.identifier},
-                                        {u"name"_s, group.name},
-                                        {u"members"_s, QJsonArray::fromStringList(group.members)}});
-    return jsonOf({{u"contacts"_s, contacts}, {u"groups"_s, groupObjects}});
+        contacts.append(valueOf(each));
+    QVariantList all;
+    for (const auto& [identifier, name, members] : groups)
+        all.append(
+            QVariantMap{{u"identifier"_s, identifier}, {u"name"_s, name}, {u"members"_s, members}});
+    return jsonOf({{u"contacts"_s, contacts}, {u"groups"_s, all}});
 }
 
 QByteArray messagesOnLine(const QString& line, const std::map<QString, QByteArray>& people) {
-    QJsonObject settings;
+    QVariantMap settings;
     for (const auto& [phone, json] : people)
-        settings.insert(phone, objectOf(json));
+        settings[phone] = valueOf(json);
     return jsonOf({{u"line"_s, line}, {u"people"_s, settings}});
 }
 
