@@ -144,7 +144,8 @@ TEST_F(WindowTest, MenusAndShortcutsDoTheirWork) {
 }
 
 // Catches an insert or the first words of a list that cannot be undone or that can, and an undo
-// that brings another list's words; a menu of nothing that takes the keyboard.
+// that brings another list's words; an editor that grows out of its frame or loses the caret; a
+// menu of nothing that takes the keyboard.
 TEST_F(WindowTest, MessageUndoesWhatWasDoneToItAlone) {
     withFriends().setCurrentTemplate(u"Hello"_s);
     const QString more = u"Hello again"_s;
@@ -166,6 +167,15 @@ TEST_F(WindowTest, MessageUndoesWhatWasDoneToItAlone) {
     user.click(u"Message"_s, QAccessible::EditableText);
     undo();
     EXPECT_EQ(model->currentTemplate(), more);
+    const QRect frame = user.area(u"Message"_s, QAccessible::EditableText);
+    user.key(Qt::Key_End, command);
+    for (int line = 0; line < 40; ++line)
+        user.key(Qt::Key_Return);
+    const QObject* editor = QGuiApplication::focusObject();
+    EXPECT_EQ(user.area(u"Message"_s, QAccessible::EditableText), frame);
+    EXPECT_LE(editor->property("cursorRectangle").toRectF().bottom(), frame.height());
+    user.key(Qt::Key_Home, command);
+    EXPECT_GE(editor->property("cursorRectangle").toRectF().top(), 0);
 
     model->numbers = std::vector<NumberInfo>();
     user.click(u"(212) 555-9999"_s, QAccessible::ButtonMenu);
