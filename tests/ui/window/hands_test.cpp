@@ -151,6 +151,7 @@ TEST_F(Hands, WhatIsTypedIntoAFieldCountsAtOnce) {
     user.key(Qt::Key_Tab);
     EXPECT_GE(startOf(shortest), 0);
     settings->close();
+    model->editConfig([](AppConfig& config) { config.delayMin = 98765.25; });
     model->openSettings();
     user.settle();
     EXPECT_GE(startOf(shortest), 0);
@@ -241,7 +242,8 @@ TEST_F(Hands, OnlyWhatIsMeantIsChosen) {
     model->openSettings();
     user.settle();
     // So many that those before the chosen one have no room above it.
-    model->numbers = {{u"+1"_s, 9}, {u"+2"_s, 8}, {u"+3"_s, 7}, {u"+4"_s, 6}, {myLine, 5}};
+    model->numbers = {{u"+1"_s, 9}, {u"+2"_s, 8}, {u"+3"_s, 7}, {u"+4"_s, 6},
+                      {myLine, 5},  {u"+6"_s, 4}, {u"+7"_s, 3}};
     user.settle();
     QWindow* settings = WindowDriver::windowTitled(u"Settings"_s);
     const QPoint picker = user.place(u"Send from"_s, QAccessible::ComboBox, settings);
