@@ -3,7 +3,7 @@ import QtQuick
 import QtQuick.Layouts
 import Velmora
 
-/// A pop-up picker: shows the chosen option and opens the others over it.
+/// A pop-up picker: shows the chosen option and opens the others around it.
 MenuOpener {
     id: picker
 
@@ -28,15 +28,28 @@ MenuOpener {
         font: words.font
     }
 
+    // The chosen option lies over the control. Where the window leaves no room for those before it,
+    // they scroll into view, and the menu grows by them.
     PopupMenu {
         id: popup
+
+        property real controlTop: 0
+        readonly property real before: Math.max(0, picker.currentIndex) * 24
+        readonly property real shownBefore: Math.min(before, controlTop - margins - rowsTop)
+
         x: -21
-        y: -rowsTop - Math.max(0, picker.currentIndex) * 24
+        y: -rowsTop - shownBefore
         // Not by its own place, which follows the width where the window is too narrow.
         width: Math.max(implicitWidth, picker.width + 21)
+        height: Math.min(implicitHeight - stillHidden,
+                         picker.Window.height - margins - controlTop - y)
         entries: picker.options
         markedIndex: picker.currentIndex
         marksColumn: true
+        onAboutToShow: {
+            controlTop = picker.mapToItem(null, 0, 0).y;
+            stillHidden = before - shownBefore;
+        }
         onChosen: index => picker.chosen(index)
     }
 

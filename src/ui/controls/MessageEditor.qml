@@ -20,6 +20,7 @@ FocusScope {
         following = true;
         area.clear();
         area.replace(text);
+        flick.contentY = 0;
         following = false;
     }
 
@@ -43,14 +44,18 @@ FocusScope {
         focused: area.activeFocus
     }
 
+    // Only says how far the text is scrolled: the text itself stays where the frame shows it, for what
+    // a screen reader is told of its place.
     Flickable {
+        id: flick
         anchors.fill: parent
         anchors.margins: 1
+        contentHeight: area.contentHeight + 2 * area.padding
         boundsBehavior: Flickable.StopAtBounds
         clip: true
-        T.ScrollBar.vertical: SlimScrollBar {}
+        T.ScrollBar.vertical: SlimScrollBar { z: 1 }
 
-        T.TextArea.flickable: T.TextArea {
+        T.TextArea {
             id: area
 
             function append(suffix: string) {
@@ -67,8 +72,23 @@ FocusScope {
                 cursorPosition = activeFocus ? length : 0;
             }
 
+            function showCaret() {
+                const above = cursorRectangle.y - padding;
+                const below = cursorRectangle.y + cursorRectangle.height + padding - height;
+                const end = Math.max(0, contentHeight + 2 * padding - height);
+                if (above < 0 || below > 0)
+                    flick.contentY = Math.max(0, Math.min(end, flick.contentY
+                                                               + (above < 0 ? above : below)));
+            }
+
+            parent: flick
+            width: flick.width
+            height: flick.height
             focus: true
             padding: 6
+            topPadding: padding - flick.contentY
+            // The text goes on to the frame.
+            bottomPadding: 0
             wrapMode: TextEdit.Wrap
             textFormat: TextEdit.PlainText
             selectByMouse: true
@@ -85,6 +105,8 @@ FocusScope {
             Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
             Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
             onTextChanged: if (!editor.following) editor.edited(area.text)
+            onCursorPositionChanged: showCaret()
+            onContentHeightChanged: showCaret()
 
             TextMenu {
                 id: menu

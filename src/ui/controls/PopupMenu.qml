@@ -16,11 +16,18 @@ T.Popup {
     /// The rows are made when the menu is first wanted.
     property bool made: false
     readonly property real rowsTop: topPadding
+    /// How much of the rows lies above the menu's frame as it opens, and has not been scrolled into
+    /// it since.
+    property real stillHidden: 0
     /// Whether a click may still be the second half of the one that opened the menu.
     property bool opening: false
-    /// Where the pointer opened the menu or was first seen in it, and whether it has moved since.
+    /// Where the pointer opened the menu, was first seen in it or lay at the last key, where it was
+    /// last seen, and whether it has moved since.
     property var restingPlace: null
+    property var lastPlace: null
     property bool pointed: false
+    /// The way in which the pointer at the frame's edge scrolls: -1 up, 1 down.
+    property int creeping: 0
 
     signal chosen(int index)
     signal sideways(int delta)
@@ -32,12 +39,14 @@ T.Popup {
         if (next >= 0 && next < rows.count)
             highlighted = next;
         showHighlighted();
+        restingPlace = lastPlace;
+        pointed = false;
+        creeping = 0;
     }
     function showHighlighted() {
         const row = rows.itemAt(highlighted) as MenuRow;
         if (row)
-            flick.contentY = Math.max(row.y + row.height - flick.height,
-                                      Math.min(row.y, flick.contentY));
+            scrollTo(Math.max(row.y + row.height - flick.height, Math.min(row.y, flick.contentY)));
     }
     function pick(index: int) {
         close();
@@ -48,7 +57,15 @@ T.Popup {
         if (!event.isAutoRepeat)
             pick(highlighted);
     }
+    function scrollTo(place: real) {
+        flick.contentY = Math.max(0, Math.min(flick.contentHeight - flick.height, place));
+        grow();
+    }
+    function grow() {
+        stillHidden = Math.max(0, Math.min(stillHidden, flick.contentY));
+    }
     function follow(scene: point) {
+        lastPlace = scene;
         if (restingPlace === null)
             restingPlace = scene;
         pointed = pointed || Math.abs(scene.x - restingPlace.x) > 3
@@ -57,10 +74,12 @@ T.Popup {
             track(scene);
     }
     function track(scene: point) {
-        const place = column.mapFromItem(null, scene.x, scene.y);
-        const inside = place.x >= 0 && place.x < flick.width;
-        const row = inside ? column.childAt(0, place.y) as MenuRow : null;
+        const place = flick.mapFromItem(null, scene.x, scene.y);
+        const row = flick.contains(place)
+                    ? column.childAt(0, place.y + flick.contentY) as MenuRow : null;
         highlighted = row !== null && row.selectable ? row.index : -1;
+        lastPlace = scene;
+        creeping = !flick.interactive ? 0 : place.y < 12 ? -1 : place.y > flick.height - 12 ? 1 : 0;
     }
 
     focus: true
@@ -73,15 +92,29 @@ T.Popup {
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     onAboutToShow: {
         made = true;
+        column.forceLayout();
         restingPlace = null;
+        lastPlace = null;
         pointed = false;
+        creeping = 0;
         highlighted = markedIndex;
         focusedBefore = parent.Window.activeFocusItem;
     }
     onClosed: focusedBefore?.forceActiveFocus(Qt.PopupFocusReason)
     onOpened: {
         flick.forceActiveFocus(Qt.PopupFocusReason);
+        flick.contentY = stillHidden;
         showHighlighted();
+    }
+
+    Timer {
+        interval: 40
+        repeat: true
+        running: menu.visible && menu.creeping !== 0
+        onTriggered: {
+            menu.scrollTo(flick.contentY + 12 * menu.creeping);
+            menu.track(menu.lastPlace);
+        }
     }
 
     background: Item {
@@ -109,7 +142,9 @@ T.Popup {
         boundsBehavior: Flickable.StopAtBounds
         interactive: contentHeight > height
         clip: interactive
+        onContentYChanged: if (moving) Qt.callLater(menu.grow)
         Accessible.role: Accessible.PopupMenu
+        T.ScrollBar.vertical: SlimScrollBar {}
         Keys.onUpPressed: menu.step(-1)
         Keys.onDownPressed: menu.step(1)
         Keys.onReturnPressed: event => menu.pickByKey(event)

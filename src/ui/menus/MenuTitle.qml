@@ -65,6 +65,8 @@ Item {
 
     PopupMenu {
         id: menu
+        // Over the alert.
+        z: 2
         y: title.height + 2
         modal: false
         visible: title.open

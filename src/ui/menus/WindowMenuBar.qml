@@ -4,7 +4,7 @@ import Velmora
 
 /// The menu bar in the window, where the desktop has none of its own. As that one it lies over
 /// everything. While a menu is open, the pointer or the arrow keys go on to its neighbours.
-Rectangle {
+UncoveredArea {
     id: bar
 
     required property MenuCommands commands
@@ -19,9 +19,12 @@ Rectangle {
     }
 
     implicitHeight: 28
-    color: Theme.windowBackground
     Accessible.role: Accessible.MenuBar
 
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.windowBackground
+    }
     Row {
         x: 6
 

@@ -15,18 +15,15 @@ namespace {
 
 using menus::Command;
 
-/// What an item acts on: the application; the same, once the terms are accepted; the main window's
-/// content, while nothing covers it; or the text field that has the keyboard.
-enum class Reach { application, agreed, content, text };
+/// What an item acts on: the application; the main window's content, while nothing covers it; or
+/// the text field that has the keyboard.
+enum class Reach { application, content, text };
 
 Reach reachOf(Command command) {
     switch (command) {
-        case Command::settings:
-            return Reach::agreed;
         case Command::find:
         case Command::selectShown:
         case Command::clearShown:
-        case Command::reload:
         case Command::send:
             return Reach::content;
         case Command::undo:
@@ -108,13 +105,15 @@ void runOnWindow(Command command) {
 
 MenuCommands::MenuCommands(AppModel& model) : model_(model) {
     connect(&model_, &AppModel::configChanged, this, &MenuCommands::follow);
+    connect(&model_, &AppModel::contactsAllowedChanged, this, &MenuCommands::follow);
     connect(&model_.runner(), &Runner::stateChanged, this, &MenuCommands::follow);
     follow();
 }
 
 void MenuCommands::follow() {
+    const bool hasList = model_.contactsAllowed && model_.config().selectedGroupID;
     become({.covered = now_.covered,
-            .agreed = model_.termsAccepted(),
+            .searchable = hasList && !model_.runner().isActive(),
             .paused = model_.runner().state == Runner::State::paused});
 }
 
@@ -179,16 +178,9 @@ void MenuCommands::lookAtField() {
 }
 
 bool MenuCommands::isOffered(Command command, const QObject* field) const {
-    switch (reachOf(command)) {
-        case Reach::agreed:
-            return now_.agreed;
-        case Reach::text:
-            return TextCommands::canRun(command, field);
-        case Reach::content:
-        case Reach::application:
-            break;
-    }
-    return true;
+    if (command == Command::find)
+        return now_.searchable && !now_.covered;
+    return reachOf(command) != Reach::text || TextCommands::canRun(command, field);
 }
 
 bool MenuCommands::meansWindow(Command command) {

@@ -72,8 +72,8 @@ class MenuCommands final : public QObject {
     /// What the offers hang on.
     struct Circumstances {
         bool covered = false;
-        bool agreed = false;  ///< to the terms, before which no test text must go out
-        bool paused = false;  ///< then Command-Return belongs to the Resume button
+        bool searchable = false;  ///< there is a list, which no run holds
+        bool paused = false;      ///< then Command-Return belongs to the Resume button
         bool operator==(const Circumstances&) const = default;
     };
 

@@ -12,6 +12,8 @@ FocusScope {
     property bool showsField: false
     property bool showsOffer: false
     property bool fieldEnabled: true
+    /// Whether Tab stops here.
+    property bool stops: false
 
     /// The keyboard enters the field, or asks for it.
     signal entered
@@ -46,7 +48,7 @@ FocusScope {
             symbol: "square.and.pencil"
             text: "Add note"
             tint: line.linkColor
-            focusPolicy: Qt.NoFocus
+            focusPolicy: line.stops ? Qt.TabFocus : Qt.NoFocus
             onClicked: line.enter()
             Keys.onEscapePressed: line.finished()
             Keys.onLeftPressed: line.finished()
@@ -60,7 +62,7 @@ FocusScope {
         TextEntry {
             width: line.width
             focus: true
-            activeFocusOnTab: false
+            activeFocusOnTab: line.stops
             small: true
             placeholder: "Personal note"
             placeholderTextColor: line.placeholderColor
@@ -74,7 +76,6 @@ FocusScope {
             Keys.onEnterPressed: line.finished()
             Keys.onEscapePressed: line.finished()
             Keys.onBacktabPressed: line.finished()
-            Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
         }
     }
 }

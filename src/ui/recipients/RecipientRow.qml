@@ -149,6 +149,7 @@ FocusScope {
                 showsField: row.entry.showsNote
                 showsOffer: row.entry.offersNote
                 fieldEnabled: row.recipients.enabled
+                stops: row.current
                 onEntered: {
                     row.recipients.editNote(row.index);
                     row.activated();

@@ -4,7 +4,7 @@ import QtQuick.Templates as T
 import Velmora
 
 /// The rows of the people. One stop for the keyboard: Up and Down move, Space checks, Return enters
-/// the row's note or makes one, Tab enters it where there is one, Right goes to the offer of one.
+/// the row's note or makes one, Tab goes to it or to the offer of one, as does Right to the offer.
 ListView {
     id: list
 
@@ -20,9 +20,8 @@ ListView {
     function goToBeginning() {
         contentY = originY - topMargin;
     }
-    function enterNote(makesOne: bool): bool {
-        const row = currentItem as RecipientRow;
-        return row !== null && (makesOne || row.entry.showsNote) && row.enterNote();
+    function enterNote() {
+        (currentItem as RecipientRow)?.enterNote();
     }
 
     readonly property int revision: recipients.revision
@@ -67,13 +66,12 @@ ListView {
         if (!event.isAutoRepeat)
             recipients.toggle(currentIndex);
     }
-    Keys.onReturnPressed: enterNote(true)
-    Keys.onEnterPressed: enterNote(true)
+    Keys.onReturnPressed: enterNote()
+    Keys.onEnterPressed: enterNote()
     Keys.onRightPressed: event => {
         const row = currentItem as RecipientRow;
         event.accepted = row !== null && row.reachNote();
     }
-    Keys.onTabPressed: event => event.accepted = enterNote(false)
     Keys.onPressed: event => {
         const to = {
             [Qt.Key_Home]: 0,

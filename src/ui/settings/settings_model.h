@@ -81,8 +81,7 @@ class SettingsModel final : public QObject {
     [[nodiscard]] QString testPhone() const;
     /// Takes the number as typed, also during a run; whether it is one shows when the test is sent.
     void setTestPhone(const QString& typed);
-    /// Whether there is a number to send it to and neither a run nor a test under way, nor the
-    /// terms still to be accepted.
+    /// Whether there is a number to send it to and neither a run nor a test under way.
     [[nodiscard]] bool canSendTest() const;
     /// Sends the test text, when that can be done.
     Q_INVOKABLE void sendTest();

@@ -28,10 +28,14 @@ T.ApplicationWindow {
             requestActivate();
     }
 
-    menuBar: WindowMenuBar {
+    // Keeps the bar's room.
+    menuBar: Item {
+        implicitHeight: bar.implicitHeight
+        visible: bar.visible
+    }
+    WindowMenuBar {
         id: bar
-        // Over what covers the rest of the window, which is at a million.
-        z: 2000000
+        width: root.width
         visible: !root.nativeMenus
         commands: root.presentation.menus
     }

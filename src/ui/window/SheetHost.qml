@@ -10,18 +10,12 @@ Item {
     required property int titleBottom
 
     readonly property MainWindowModel window: presentation.window
-    readonly property bool inFront: Window.active
-
-    function keepKeyboard() {
-        if (inFront && alert.shown && !alert.activeFocus)
-            alert.forceActiveFocus();
-    }
-
-    onInFrontChanged: keepKeyboard()
 
     component HostedSheet: SheetPopup {
         titleBottom: host.titleBottom
         covered: host.window.alertShown
+        // A sheet that opens under the alert takes the keyboard with it.
+        onActiveFocusChanged: if (activeFocus && covered) alert.forceActiveFocus()
     }
 
     HostedSheet {
@@ -53,8 +47,6 @@ Item {
         z: 1
         covered: false
         shown: host.window.alertShown
-        // A sheet that opens under the alert takes the keyboard with it.
-        onActiveFocusChanged: host.keepKeyboard()
         sheet: AlertBox {
             content: host.window.alert
             onActed: host.window.stopAndQuit()

@@ -124,11 +124,14 @@ AlertContent MainWindowModel::question() const {
     const Runner& run = model_.runner();
     const qint64 left = run.total - run.done - (run.current.value() ? 1 : 0);
     const QString people = left == 1 ? u"1 person"_s : u"%1 people"_s.arg(left);
+    const QString rest =
+        u"%1 would not be texted. Send again under the same run name, and it goes on with them."_s;
     return {
         .title = u"A run is still going."_s,
         .message =
-            u"%1 would not be texted. Send again under the same run name, and it goes on with them."_s
-                .arg(people),
+            left > 0
+                ? rest.arg(people)
+                : u"Every text has gone out, but what became of the last would not be checked."_s,
         .action = u"Stop and Quit"_s,
         .dismissal = u"Cancel"_s};
 }

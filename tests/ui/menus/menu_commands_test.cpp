@@ -24,17 +24,23 @@ TEST_F(MenuCommandsTest, OffersFollowWhatIsOnTheScreen) {
         }
         return keys.join(u' ').toStdString();
     };
-    const std::string most = "Ctrl+Q Ctrl+W Ctrl+F Ctrl+Shift+A Ctrl+Shift+D Ctrl+R";
-    EXPECT_EQ(heard(), most + " Ctrl+Return Ctrl+Enter Ctrl+M") << "no test without the terms";
-    const std::string paused = "Ctrl+, " + most + " Ctrl+M";
-    const std::string all = "Ctrl+, " + most + " Ctrl+Return Ctrl+Enter Ctrl+M";
+    const std::string all =
+        "Ctrl+, Ctrl+Q Ctrl+W Ctrl+F Ctrl+Shift+A Ctrl+Shift+D Ctrl+R Ctrl+Return Ctrl+Enter "
+        "Ctrl+M";
+    const std::string noFind = "Ctrl+, Ctrl+Q Ctrl+W Ctrl+Shift+A Ctrl+Shift+D Ctrl+R";
+    const std::string covered = noFind + " Ctrl+Return Ctrl+Enter Ctrl+M";
+    EXPECT_EQ(heard(), covered) << "the terms";
     const std::vector<std::tuple<std::function<void()>, std::string, bool>> steps = {
         {[&] { model->acceptTerms(); }, all, true},
-        {[&] { model->alert = u"No."_s; }, all, false},
+        {[&] { model->alert = u"No."_s; }, covered, false},
         {[&] { model->alert = std::nullopt; }, all, true},
-        {[&] { model->confirmingRun = true; }, all, false},
+        {[&] { model->confirmingRun = true; }, covered, false},
         {[&] { model->confirmingRun = false; }, all, true},
-        {[&] { model->runner().state = Runner::State::paused; }, paused, false}};
+        {[&] { model->runner().state = Runner::State::paused; }, noFind + " Ctrl+M", false},
+        {[&] { model->runner().state = Runner::State::idle; }, all, true},
+        {[&] { model->contactsAllowed = false; }, covered, true},
+        {[&] { model->contactsAllowed = true; }, all, true},
+    };
     for (size_t step = 0; step < steps.size(); ++step) {
         const qsizetype before = told.size();
         const auto& [change, keys, selects] = steps[step];
@@ -44,6 +50,9 @@ TEST_F(MenuCommandsTest, OffersFollowWhatIsOnTheScreen) {
         model->setSelection({});
         menus.run(menus::Command::selectShown);
         EXPECT_EQ(!model->selection().isEmpty(), selects) << step;
+        model->allContactsCount = 0;
+        menus.run(menus::Command::reload);
+        EXPECT_EQ(model->allContactsCount.value(), 3) << step;
     }
     const qsizetype before = told.size();
     model->setSelected(u"ann"_s, false);

@@ -63,10 +63,10 @@ TEST_F(Hands, TabWalksThroughTheWindowAsItIsRead) {
     model->selectGroup(u"friends"_s);
     const QString bar = u"Friends|Sidebar width|Show|Search people|"_s;
     const QString composer = u"Message|Insert|(212) 555-9999"_s;
-    expectWalk(bar + u"Select All|Clear All|Ann Lee|"_s + composer);
+    expectWalk(bar + u"Select All|Clear All|Ann Lee|Add note|"_s + composer);
     model->setSelection({u"bob"_s, u"joanne"_s});
     model->searchText = u"o"_s;
-    expectWalk(bar + u"Clear search|Select Shown|Clear Shown|Bob Stone|"_s + composer +
+    expectWalk(bar + u"Clear search|Select Shown|Clear Shown|Bob Stone|Add note|"_s + composer +
                u"|Send to 2\u2026"_s);
     model->startRun();
     ASSERT_TRUE(driver->until([&] { return driver->shows(u"Activity"_s); }));
@@ -91,12 +91,18 @@ TEST_F(Hands, ANoteIsBegunWrittenAndLeftByTheKeyboard) {
         user.key(back);
         EXPECT_TRUE(user.focused().startsWith(u"Bob Stone"));
     }
-    user.key(Qt::Key_Right);
-    user.key(Qt::Key_Space);
-    EXPECT_EQ(user.focused(), u"Personal note");
-    user.type(u"See you"_s);
-    EXPECT_EQ(model->config().notes.value(u"bob"_s), u"See you");
-    user.key(Qt::Key_Escape);
+    for (const auto& [to, press] :
+         {std::pair(Qt::Key_Tab, Qt::Key_Return), {Qt::Key_Right, Qt::Key_Space}}) {
+        model->editingNoteID = std::nullopt;
+        user.settle();
+        user.key(to);
+        user.key(press);
+        EXPECT_EQ(user.focused(), u"Personal note");
+        user.type(u"x"_s);
+        EXPECT_EQ(model->config().notes.value(u"bob"_s), u"x");
+        user.key(Qt::Key_Backspace);
+        user.key(Qt::Key_Escape);
+    }
     EXPECT_TRUE(user.focused().startsWith(u"Bob Stone"));
     user.key(Qt::Key_Space);
     EXPECT_EQ(model->selection(), QSet<QString>{u"bob"_s});
@@ -131,10 +137,24 @@ TEST_F(Hands, WhatIsTypedIntoAFieldCountsAtOnce) {
         user.key(Qt::Key_A, command);
         user.type(text);
     };
+    const auto startOf = [&](const QString& name) {
+        QRectF start(-1, 0, 0, 0);
+        for (QAccessibleInterface* each : user.elements(settings))
+            if (each->text(QAccessible::Name) == name)
+                QMetaObject::invokeMethod(each->object(), "positionToRectangle",
+                                          Q_RETURN_ARG(QRectF, start), Q_ARG(int, 0));
+        return start.x();
+    };
     enter(u"12345.75"_s);
     EXPECT_EQ(stored().delayMin, 12345.75);
+    EXPECT_LT(startOf(shortest), 0) << "the caret is in sight";
+    user.key(Qt::Key_Tab);
+    EXPECT_GE(startOf(shortest), 0);
     settings->close();
+    model->editConfig([](AppConfig& config) { config.delayMin = 98765.25; });
     model->openSettings();
+    user.settle();
+    EXPECT_GE(startOf(shortest), 0);
     enter(u"-4"_s);
     EXPECT_EQ(stored().delayMin, 0) << "a wait before the one before";
     user.key(Qt::Key_Return);
@@ -157,8 +177,9 @@ TEST_F(Hands, WhatIsTypedIntoAFieldCountsAtOnce) {
     EXPECT_EQ(model->searchText.value(), u"ann lee  ");
 }
 
-// Catches a menu that what lies over the window keeps from its work, one that offers what cannot be
-// done, a key that does not lead to the search, and a sheet without a button under the Return key.
+// Catches a menu that what lies over the window keeps from its work, for the keys or the pointer,
+// one that offers what cannot be done, a key that does not lead to the search, and a sheet without
+// a button under the Return key.
 TEST_F(Hands, MenusWorkUnderASheetAndOfferWhatCanBeDone) {
     withFriends().setCurrentTemplate(u"Hello"_s);
     model->setSelection({u"ann"_s});
@@ -194,9 +215,13 @@ TEST_F(Hands, MenusWorkUnderASheetAndOfferWhatCanBeDone) {
     user.key(Qt::Key_Up);
     user.key(Qt::Key_Return);
     EXPECT_EQ(model->selection().size(), 1) << "reached under the sheet";
-    user.key(Qt::Key_F10);
-    user.key(Qt::Key_Down);
-    user.key(Qt::Key_Return);
+    model->alert = u"Something is wrong."_s;
+    user.settle();
+    EXPECT_EQ(offered(5), "Terms of Use|Pacing and Safeguards");
+    user.key(Qt::Key_Escape);
+    EXPECT_TRUE(model->alert.value()) << "the menu's key reached the alert";
+    user.click(u"Velmora"_s, QAccessible::ButtonMenu);
+    user.click(u"About Velmora"_s);
     EXPECT_TRUE(WindowDriver::windowTitled(u"About Velmora"_s) != nullptr);
 }
 
@@ -216,21 +241,30 @@ TEST_F(Hands, OnlyWhatIsMeantIsChosen) {
     }
     model->openSettings();
     user.settle();
-    // So many that another one than the chosen lies under the pointer, and one that the window is
+    // So many that those before the chosen one have no room above it, and one that the window is
     // hardly wide enough for.
-    model->numbers = {{u"+1"_s, 9}, {u"+2"_s, 8}, {u"+3"_s, 7},
-                      {u"+4"_s, 6}, {myLine, 5},  {u"+4"_s.repeated(24), 4}};
+    model->numbers = {{u"+1"_s, 9}, {u"+2"_s, 8}, {u"+3"_s, 7}, {u"+4"_s, 6},
+                      {myLine, 5},  {u"+6"_s, 4}, {u"+4"_s.repeated(24), 3}};
     user.settle();
     QWindow* settings = WindowDriver::windowTitled(u"Settings"_s);
     const QPoint picker = user.place(u"Send from"_s, QAccessible::ComboBox, settings);
     user.clickAt(picker, settings);
     user.clickAt(picker, settings);
-    EXPECT_EQ(model->config().senderNumber, myLine) << "the second click chose";
-    user.key(Qt::Key_Up);
-    QTest::mouseMove(settings, picker + QPoint(1, 0));
-    user.settle();
-    user.key(Qt::Key_Return);
-    EXPECT_EQ(model->config().senderNumber, u"+4") << "the pointer lay over another";
+    const QString chosen = u"(212) 555-9999  (5 messages)"_s;
+    EXPECT_EQ(user.place(chosen, QAccessible::MenuItem, settings).y(), picker.y());
+    for (const auto& [way, next] : {std::pair(QPoint(1, 0), "+4"), {QPoint(1, -24), "+3"}}) {
+        const QPoint rest = picker + way;
+        QTest::mouseMove(settings, rest);
+        user.settle();
+        user.key(Qt::Key_Up);
+        QTest::mouseMove(settings, rest + QPoint(1, 0));
+        user.settle();
+        user.key(Qt::Key_Return);
+        EXPECT_EQ(model->config().senderNumber, QLatin1String(next))
+            << "the second click chose, or the pointer that lay over another";
+        model->setSenderNumber(myLine);
+        user.clickAt(picker, settings);
+    }
 }
 
 }  // namespace

@@ -77,6 +77,11 @@ TEST_F(WindowModels, ARunIsClosedOnlyByTheEndOfTheSession) {
     EXPECT_EQ(window.alert().message, u"Call (212)\u00A0555-0101."_s);
     window.dismissAlert();
     EXPECT_FALSE(window.alertShown());
+    model->runner().done = 3;
+    EXPECT_FALSE(window.mayClose());
+    EXPECT_TRUE(window.alert().message.startsWith(u"Every text has gone out"));
+    window.dismissAlert();
+    model->runner().done = 0;
     // What the desktop announces; nobody looks at what comes with it.
     QMetaObject::invokeMethod(qApp, "commitDataRequest",
                               QGenericArgument("QSessionManager&", qApp));

@@ -134,8 +134,9 @@ TEST_F(WindowTest, MenusAndShortcutsDoTheirWork) {
 }
 
 // Catches the first words of a list that can be undone, and an undo that brings another list's
-// words; a menu of numbers that chooses another, and one of nothing that takes the keyboard.
-TEST_F(WindowTest, TheComposerKeepsToItsList) {
+// words; an editor that grows out of its frame or loses the caret; a menu of numbers that chooses
+// another, and one of nothing that takes the keyboard.
+TEST_F(WindowTest, TheComposerKeepsToItsListAndItsFrame) {
     thread(u"+12125550102"_s, myOtherLine);
     withFriends().setSenderNumber(myLine);
     model->setCurrentTemplate(u"Hello"_s);
@@ -149,6 +150,15 @@ TEST_F(WindowTest, TheComposerKeepsToItsList) {
     user.click(u"Message"_s, QAccessible::EditableText);
     user.key(Qt::Key_Z, command);
     EXPECT_EQ(model->currentTemplate(), more);
+    const QRect frame = user.area(u"Message"_s, QAccessible::EditableText);
+    user.key(Qt::Key_End, command);
+    for (int line = 0; line < 40; ++line)
+        user.key(Qt::Key_Return);
+    const QObject* editor = QGuiApplication::focusObject();
+    EXPECT_EQ(user.area(u"Message"_s, QAccessible::EditableText), frame);
+    EXPECT_LE(editor->property("cursorRectangle").toRectF().bottom(), frame.height());
+    user.key(Qt::Key_Home, command);
+    EXPECT_GE(editor->property("cursorRectangle").toRectF().top(), 0);
 
     user.click(u"(212) 555-9999"_s, QAccessible::ButtonMenu);
     user.click(u"(212) 555-8888"_s, QAccessible::MenuItem);
