@@ -122,6 +122,12 @@ TEST_F(StorageTest, WhatCannotBeWrittenCountsAndIsWrittenLater) {
     EXPECT_TRUE(QDir(folder.logs()).removeRecursively());
     log.append(entry(u"+4"_s));
     EXPECT_EQ(log.load(party).size(), 1) << "the folder was not made again";
+    {
+        SendLog ending(folder, clock);
+        const auto disk = fullDisk(0);
+        ending.append(entry(u"+5"_s));
+    }
+    EXPECT_EQ(log.load(party).size(), 2) << "not tried at the end";
 }
 
 // Another program's lines, and what it did to the file, are the user's: nothing of it may go.
@@ -143,7 +149,7 @@ TEST_F(StorageTest, WhatOthersWroteIsKeptAndTold) {
         {QByteArray(header + plain).replace(",", ";"), false},
         {plain + plain, false},
         {header + plain + "2025-03-14,short\n", false},
-        {header + rowOf("4.47E+11") + "sent,\n", false},
+        {header + rowOf("4.4770091E+11") + "sent,\n", false},
         {header + plain + "\xe9\n", false},
         {QByteArray("\xff\xfet\0i\0", 6), false},
     };
