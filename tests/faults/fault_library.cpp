@@ -1,6 +1,8 @@
 // Preloaded into a program, makes the n-th call on files below one folder fail, once or from then
 // on: VELMORA_FAULT_FOLDER, VELMORA_FAULT_AT and, for the latter, VELMORA_FAULT_STAYS. At the end
-// it writes how many calls there were into the file VELMORA_FAULT_COUNT.
+// it writes how many calls there were into the file VELMORA_FAULT_COUNT. Until one fails, whatever
+// is written must be on the disk before its file is closed, and a file's new name before the next
+// one.
 
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -17,7 +19,14 @@
 namespace {
 
 int calls = 0;
-std::array<bool, 1024> isWatched{};  // by descriptor
+bool hasFailed = false;
+struct Handle {
+    bool isWatched = false;
+    bool isNew = false;
+    bool isUnsafe = false;  // what was written is not on the disk
+};
+std::array<Handle, 1024> handles{};
+bool namesAreUnsafe = false;
 
 const char* setting(const char* name) {
     const char* value = std::getenv(name);
@@ -30,8 +39,15 @@ bool lies(const char* path) {
 }
 
 bool watched(int handle) {
-    return handle >= 0 && handle < static_cast<int>(isWatched.size()) &&
-           isWatched[static_cast<size_t>(handle)];
+    return handle >= 0 && handle < static_cast<int>(handles.size()) &&
+           handles[static_cast<size_t>(handle)].isWatched;
+}
+
+void mustBeSafe(bool isUnsafe) {
+    if (isUnsafe && !hasFailed) {
+        std::fputs("A loss of power would take what was written.\n", stderr);
+        std::abort();
+    }
 }
 
 // Whether this call is to fail; `error` is what it then says.
@@ -42,6 +58,7 @@ bool fails(int error) {
     if (at == 0 || (stays ? calls < at : calls != at))
         return false;
     errno = error;
+    hasFailed = true;
     return true;
 }
 
@@ -53,9 +70,11 @@ Function real(const char* name) {
 int opened(const char* name, const char* path, int flags, mode_t mode) {
     if (lies(path) && fails((flags & O_CREAT) != 0 ? ENOSPC : EIO))
         return -1;
+    const bool isNew = (flags & O_CREAT) != 0;
+    mustBeSafe(isNew && lies(path) && namesAreUnsafe);
     const int handle = real<int (*)(const char*, int, ...)>(name)(path, flags, mode);
-    if (handle >= 0 && handle < static_cast<int>(isWatched.size()))
-        isWatched[static_cast<size_t>(handle)] = lies(path);
+    if (handle >= 0 && handle < static_cast<int>(handles.size()))
+        handles[static_cast<size_t>(handle)] = {.isWatched = lies(path), .isNew = isNew};
     return handle;
 }
 
@@ -69,6 +88,7 @@ int named(const char* name, const char* path, Arguments... arguments) {
 
 struct Report {
     ~Report() {
+        mustBeSafe(namesAreUnsafe);
         if (FILE* file = std::fopen(setting("VELMORA_FAULT_COUNT"), "w")) {
             std::fprintf(file, "%d", calls);
             std::fclose(file);
@@ -105,11 +125,18 @@ ssize_t write(int handle, const void* bytes, size_t size) {
         return size < 2 ? -1
                         : real<ssize_t (*)(int, const void*, size_t)>("write")(handle, bytes, 1);
     }
+    if (watched(handle))
+        handles[static_cast<size_t>(handle)].isUnsafe = true;
     return real<ssize_t (*)(int, const void*, size_t)>("write")(handle, bytes, size);
 }
 int fsync(int handle) {
     if (watched(handle) && fails(EIO))
         return -1;
+    struct stat status{};
+    if (watched(handle) && real<int (*)(int, struct stat*)>("fstat")(handle, &status) == 0) {
+        handles[static_cast<size_t>(handle)].isUnsafe = false;
+        namesAreUnsafe = namesAreUnsafe && !S_ISDIR(status.st_mode);
+    }
     return real<int (*)(int)>("fsync")(handle);
 }
 int ftruncate(int handle, off_t size) noexcept {
@@ -118,6 +145,7 @@ int ftruncate(int handle, off_t size) noexcept {
     return real<int (*)(int, off_t)>("ftruncate")(handle, size);
 }
 int rename(const char* from, const char* to) noexcept {
+    namesAreUnsafe = namesAreUnsafe || lies(to);
     return named("rename", from, to);
 }
 int unlink(const char* path) noexcept {
@@ -154,8 +182,12 @@ int statx(int folder, const char* path, int flags, unsigned mask, struct statx* 
 }
 int close(int handle) {
     const bool failed = watched(handle) && fails(EIO);
-    if (handle >= 0 && handle < static_cast<int>(isWatched.size()))
-        isWatched[static_cast<size_t>(handle)] = false;
+    if (watched(handle)) {
+        Handle& closed = handles[static_cast<size_t>(handle)];
+        mustBeSafe(closed.isUnsafe);
+        namesAreUnsafe = namesAreUnsafe || closed.isNew;
+        closed = {};
+    }
     const int result = real<int (*)(int)>("close")(handle);
     return failed ? -1 : result;
 }
