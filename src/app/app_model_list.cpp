@@ -66,13 +66,15 @@ std::vector<Recipient> AppModel::checked(const std::vector<ContactRecord>& peopl
 }
 
 void AppModel::tellOfLog() {
-    if (sendLog_.isUnderstood(loadedBatch_) || toldOf_.contains(loadedBatch_))
+    if (sendLog_.isUnderstood(batchName) || toldOf_.contains(batchName))
         return;
-    toldOf_.insert(loadedBatch_);
+    toldOf_.insert(batchName);
+    const QString unread = alert.value() ? *alert.value() + u"\n\n"_s : QString();
     alert =
+        unread +
         u"Velmora can't tell from the log %1 who was already texted in the run \"%2\". Mend the "
         "file or choose another run name, or they may be texted again."_s.arg(
-            QDir::toNativeSeparators(sendLog_.logFile(loadedBatch_)), loadedBatch_);
+            QDir::toNativeSeparators(sendLog_.logFile(batchName)), batchName.value());
 }
 
 void AppModel::publish(std::vector<Recipient> list) {

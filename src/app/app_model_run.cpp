@@ -69,13 +69,12 @@ void AppModel::confirmRun() {
     // The people and not their number: the other name may check someone for each that it unchecks.
     const QSet<QString> before = selection_;
     const qsizetype told = toldOf_.size();
-    if (batchName.value() != loadedBatch_) {
+    if (batchName.value() != loadedBatch_)
         loadList();
-    } else {
-        // Another program may have changed the log since it was loaded.
-        static_cast<void>(sendLog_.alreadySent(loadedBatch_));
-        tellOfLog();
-    }
+    // Another program may have changed the log since then, and where the list cannot be read
+    // nobody has looked at it.
+    static_cast<void>(sendLog_.alreadySent(batchName));
+    tellOfLog();
     if (toldOf_.size() != told)
         return;
     if (selection_ == before)

@@ -3,6 +3,7 @@
 #include <sqlite3.h>
 
 #include <QDir>
+#include <QFileInfo>
 #include <algorithm>
 #include <limits>
 
@@ -98,6 +99,9 @@ QString messagesHistoryPath(const QString& home) {
 }
 
 std::expected<MessagesDB, DBError> MessagesDB::open(const QString& path) {
+    // SQLite waits for the other end of a pipe.
+    if (const QFileInfo file(path); file.exists() && !file.isFile())
+        return std::unexpected(DBError{DBError::Kind::open, u"it is no ordinary file"_s});
     sqlite3* connection = nullptr;
     const int code =
         sqlite3_open_v2(path.toUtf8().constData(), &connection, SQLITE_OPEN_READONLY, nullptr);
@@ -116,6 +120,9 @@ std::expected<MessagesDB, DBError> MessagesDB::open(const QString& path) {
 
 std::expected<std::vector<MessagesDB::Row>, DBError> MessagesDB::query(
     const QString& sql, const std::vector<Bind>& binds, double seconds) {
+    // Where one did not end in time, others would not, and there may be one for each person.
+    if (isEndless_)
+        return std::unexpected(DBError{DBError::Kind::query, u"interrupted"_s});
     const TimeLimit limit(db_.get(), seconds);
     sqlite3_stmt* prepared = nullptr;
     const int prepareCode =
@@ -130,6 +137,7 @@ std::expected<std::vector<MessagesDB::Row>, DBError> MessagesDB::query(
     int stepCode = sqlite3_step(statement.get());
     for (; stepCode == SQLITE_ROW; stepCode = sqlite3_step(statement.get()))
         rows.push_back(readRow(statement));
+    isEndless_ = stepCode == SQLITE_INTERRUPT;
     if (stepCode != SQLITE_DONE)
         return std::unexpected(queryError());
     return rows;

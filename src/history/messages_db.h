@@ -40,7 +40,7 @@ class MessagesDB {
     /// is missing or may not be opened, with Kind::query when it is no history or is locked.
     [[nodiscard]] static std::expected<MessagesDB, DBError> open(const QString& path);
 
-    /// Seconds after which a statement is interrupted.
+    /// Seconds after which a statement is interrupted; no other is tried on the connection then.
     static constexpr double longestQuery = 10;
 
     /// Prepares, binds, runs and finalizes one statement: all its rows. Fails with Kind::query, as
@@ -76,6 +76,7 @@ class MessagesDB {
                                                             const QString& columns);
 
     std::unique_ptr<sqlite3, Closer> db_;
+    bool isEndless_ = false;
 };
 
 }  // namespace velmora

@@ -40,6 +40,9 @@ bool isHeader(const CSVReader& row) {
 }
 
 bool isPhone(QStringView text) {
+    // A spreadsheet's 4.4770091E+11 is no number any more.
+    if (text.contains(u'E', Qt::CaseInsensitive))
+        return false;
     const auto isDigit = [](QChar each) { return each >= u'0' && each <= u'9'; };
     const QStringView digits = text.startsWith(u'+') ? text.sliced(1) : text;
     return (!digits.isEmpty() && std::ranges::all_of(digits, isDigit)) ||

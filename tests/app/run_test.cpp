@@ -96,6 +96,11 @@ TEST_F(Run, ALogThatDoesNotTellWhoWasTextedIsToldOnce) {
     model->loadList();
     writeTestFile(SendLog(folder, world.clock).logFile(u"Later"_s), "time;batch\n");
     EXPECT_TRUE(alertOfRun(u"Later"_s)) << "changed since the list was loaded";
+    // The list cannot be loaded.
+    home.writeContacts("{ torn");
+    writeTestFile(SendLog(folder, world.clock).logFile(u"Unread"_s), "time;batch\n");
+    const QString both = alertOfRun(u"Unread"_s).value_or(QString());
+    EXPECT_TRUE(both.contains(u"Couldn't read that list"_s) && both.contains(u"Unread.csv"_s));
 }
 
 // Catches a run that starts where it must not or before the terms are accepted, a refusal that

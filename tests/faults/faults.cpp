@@ -1,6 +1,8 @@
 // Lets each call that Velmora makes on its files fail in turn, once or from then on, in a run of
 // five with settings saved and lines settled, and has the next evening put things right. Nobody may
-// be texted twice, and no line be lost.
+// be texted twice, and no line be lost. Until a call fails, whatever is written must be on the disk
+// before its file is closed, and a file's new name before the next one: a loss of power takes the
+// rest.
 
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -13,7 +15,9 @@
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
+#include <utility>
 
 #include "support/evening.h"
 
@@ -29,21 +33,34 @@ struct FailingCalls {
     int at = 0;          ///< the number of the call that fails, the first is 1; 0: none
     bool stays = false;  ///< all that follow fail as well
     int count = 0;       ///< the calls until now
+    bool failed = false;
 } failingCalls;
 
-std::array<bool, 1024> watched{};  // by descriptor
+struct Handle {
+    bool isOurs = false;
+    bool isNew = false;
+    bool isUnsafe = false;  // what was written is not on the disk
+};
+std::array<Handle, 1024> handles{};
+bool namesAreUnsafe = false;
 
 bool isOurs(const char* path) {
     return !failingCalls.folder.empty() && std::string_view(path).starts_with(failingCalls.folder);
 }
 
-bool isOurs(int handle) {
-    return handle >= 0 && handle < std::ssize(watched) && watched[static_cast<size_t>(handle)];
+Handle& known(int handle) {
+    return handles.at(static_cast<size_t>(handle));
 }
 
-void watch(int handle, bool ours) {
-    if (handle >= 0 && handle < std::ssize(watched))
-        watched[static_cast<size_t>(handle)] = ours;
+bool isOurs(int handle) {
+    return handle >= 0 && handle < std::ssize(handles) && known(handle).isOurs;
+}
+
+void mustBeSafe(bool isUnsafe) {
+    if (isUnsafe && !failingCalls.failed) {
+        std::fputs("A loss of power would take what was written.\n", stderr);
+        std::abort();
+    }
 }
 
 // Whether this call is to fail; `error` is what it then says.
@@ -53,6 +70,7 @@ bool fails(int error) {
     if (at == 0 || (failingCalls.stays ? call < at : call != at))
         return false;
     errno = error;
+    failingCalls.failed = true;
     return true;
 }
 
@@ -65,8 +83,11 @@ int opened(const char* name, const char* path, int flags, va_list rest) {
     const mode_t mode = va_arg(rest, mode_t);
     if (isOurs(path) && fails((flags & O_CREAT) != 0 ? ENOSPC : EIO))
         return -1;
+    const bool isNew = (flags & O_CREAT) != 0;
+    mustBeSafe(isNew && isOurs(path) && namesAreUnsafe);
     const int handle = real<int(const char*, int, ...)>(name)(path, flags, mode);
-    watch(handle, isOurs(path));
+    if (handle >= 0 && handle < std::ssize(handles))
+        known(handle) = {.isOurs = isOurs(path), .isNew = isNew};
     return handle;
 }
 
@@ -104,17 +125,30 @@ ssize_t write(int handle, const void* bytes, size_t size) {
     const bool failed = isOurs(handle) && fails(ENOSPC);
     if (failed && size < 2)
         return -1;
+    if (isOurs(handle))
+        known(handle).isUnsafe = true;
     // As on a full disk, the first part may be there.
     return real<ssize_t(int, const void*, size_t)>("write")(handle, bytes, failed ? 1 : size);
 }
 int close(int handle) {
     const bool failed = isOurs(handle) && fails(EIO);
-    watch(handle, false);
+    if (isOurs(handle)) {
+        const Handle closed = std::exchange(known(handle), {});
+        mustBeSafe(closed.isUnsafe);
+        namesAreUnsafe = namesAreUnsafe || closed.isNew;
+    }
     const int result = real<int(int)>("close")(handle);
     return failed ? -1 : result;
 }
 int fsync(int handle) {
-    return passOn("fsync", handle);
+    const int result = passOn("fsync", handle);
+    if (result == 0 && isOurs(handle)) {
+        struct stat status{};
+        real<int(int, struct stat*)>("fstat")(handle, &status);
+        known(handle).isUnsafe = false;
+        namesAreUnsafe = namesAreUnsafe && !S_ISDIR(status.st_mode);
+    }
+    return result;
 }
 int ftruncate(int handle, off_t size) noexcept {
     return passOn("ftruncate", handle, size);
@@ -129,6 +163,7 @@ int lstat(const char* path, struct stat* status) noexcept {
     return passOn("lstat", path, status);
 }
 int rename(const char* from, const char* to) noexcept {
+    namesAreUnsafe = namesAreUnsafe || isOurs(to);
     return passOn("rename", from, to);
 }
 int unlink(const char* path) noexcept {
@@ -166,6 +201,7 @@ int runWithFault(const QStringList& arguments) {
                     .at = arguments.value(4).toInt(),
                     .stays = arguments.value(5) == u"stays"};
     const int result = runEvening(home, 0);
+    mustBeSafe(namesAreUnsafe);
     std::printf("%d", failingCalls.count);
     return result;
 }

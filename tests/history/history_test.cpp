@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QJsonDocument>
 #include <limits>
@@ -58,6 +59,9 @@ TEST_F(MessagesDBTest, SaysInASentenceWhyItCannotBeRead) {
     };
     expectFailure(u"Couldn't open Messages history: unable to open database file"_s);
     EXPECT_FALSE(QFile::exists(path)) << "opening made a file";
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    EXPECT_EQ(whyNotOpened(), u"Couldn't open Messages history: it is no ordinary file");
+    ASSERT_TRUE(QFile::remove(path));
     writeTestFile(path, "no database, but long enough to be looked at as if it were one");
     expectFailure(u"Couldn't read Messages history: file is not a database"_s);
     writeTestFile(path, "");
@@ -75,10 +79,12 @@ TEST_F(MessagesDBTest, SaysInASentenceWhyItCannotBeRead) {
 // would hide a conversation.
 TEST_F(MessagesDBTest, AnswersInTimeAndAboutAnyNumberOfAddresses) {
     record({.handle = annsPhone});
-    const auto endless = open().query(
+    auto history = open();
+    const auto endless = history.query(
         u"WITH RECURSIVE n AS (SELECT 1 UNION ALL SELECT 1 FROM n) SELECT 1 FROM n, n, n WHERE 0"_s,
         {}, 0.05);
     EXPECT_EQ(endless.error().description(), u"Couldn't read Messages history: interrupted");
+    EXPECT_EQ(history.lastSent(annsPhone, 0).error().message, u"interrupted"_s) << "and so on";
     QStringList addresses;
     for (int n = 0; n < 40'000; ++n)
         addresses.append(u"%1@example.com"_s.arg(n));

@@ -112,6 +112,12 @@ TEST_F(StorageTest, WhatCannotBeWrittenCountsAndIsWrittenLater) {
     EXPECT_TRUE(QDir(folder.logs()).removeRecursively());
     log.append(entry(u"+4"_s));
     EXPECT_EQ(log.load(party).size(), 1) << "the folder was not made again";
+    {
+        SendLog ending(folder, clock);
+        const auto disk = fullDisk(0);
+        ending.append(entry(u"+5"_s));
+    }
+    EXPECT_EQ(log.load(party).size(), 2) << "not tried at the end";
 }
 
 // Another program's lines, and what it did to the file, are the user's: nothing of it may go.
@@ -134,7 +140,7 @@ TEST_F(StorageTest, WhatOthersWroteIsKeptAndTold) {
     const QByteArrayList puzzling = {QByteArray(header + plain).replace(",", ";"),
                                      plain + plain,
                                      header + plain + "2025-03-14,short\n",
-                                     header + rowOf("4.47E+11") + "sent,\n",
+                                     header + rowOf("4.4770091E+11") + "sent,\n",
                                      header + plain + "\xe9\n",
                                      QByteArray("\xff\xfet\0i\0", 6)};
     for (const QByteArray& bytes : puzzling) {

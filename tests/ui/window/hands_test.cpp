@@ -243,8 +243,13 @@ TEST_F(Hands, OnlyWhatIsMeantIsChosen) {
     user.settle();
     // So many that those before the chosen one have no room above it, and one that the window is
     // hardly wide enough for.
-    model->numbers = {{u"+1"_s, 9}, {u"+2"_s, 8}, {u"+3"_s, 7}, {u"+4"_s, 6},
-                      {myLine, 5},  {u"+6"_s, 4}, {u"+4"_s.repeated(24), 3}};
+    model->numbers = {{u"+1"_s, 9},
+                      {u"+2"_s, 8},
+                      {u"+3"_s, 7},
+                      {u"+4"_s, 6},
+                      {myLine, 5},
+                      {u"+6"_s, 4},
+                      {u"+4"_s.repeated(24), 3}};
     user.settle();
     QWindow* settings = WindowDriver::windowTitled(u"Settings"_s);
     const QPoint picker = user.place(u"Send from"_s, QAccessible::ComboBox, settings);
