@@ -114,8 +114,7 @@ TEST_F(StorageTest, WhatCannotBeWrittenCountsAndIsWrittenLater) {
     EXPECT_EQ(log.load(party).size(), 1) << "the folder was not made again";
     {
         SendLog ending(folder, clock);
-        const auto disk = fullDisk(0);
-        ending.append(entry(u"+5"_s));
+        onFullDisk(0, [&] { ending.append(entry(u"+5"_s)); });
     }
     EXPECT_EQ(log.load(party).size(), 2) << "not tried at the end";
 }
