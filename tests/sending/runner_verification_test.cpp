@@ -1,7 +1,6 @@
 #include "sending/sending_world.h"
 
-namespace velmora {
-namespace {
+using namespace velmora;
 
 const QString noRecord = u"No record in Messages yet. Check the thread on your phone."_s;
 const QString notConfirmed = u"Messages hasn't confirmed it yet. Check the thread."_s;
@@ -132,18 +131,17 @@ TEST_F(VerificationTest, ARunWithoutTheHistoryEndsUnverified) {
     expectDone(u"Finished. 0 of 0 processed."_s);
 }
 
-// Catches a text that leaves though its line is not on the disk, and a run that ends because
-// outcomes wait to be written, as on a disk that is nearly full: whom the file has is safe.
+// Catches a run that ends because outcomes wait to be written, as on a disk that is nearly full:
+// whom the file has is safe. Nobody else gets a text, as tests/faults judges, too.
 TEST_F(VerificationTest, ATextLeavesWhenItsPersonStandsInTheFile) {
     messages({{1, R"({"iMessage": {"error": 22}})"}});
     const QString path = sendLog.logFile(batch);
-    for (const auto& [obstacle, handedOver] :
-         {std::pair(path, 0), std::pair(path + u".new"_s, 4)}) {
+    for (const QString& obstacle : {path, path + u".new"_s}) {
         ASSERT_TRUE(QDir().mkpath(obstacle));
         start(3);
         settle();
-        EXPECT_EQ(scripts.count, handedOver) << qPrintable(obstacle);
-        EXPECT_EQ(file().count("sent_unverified"), handedOver == 0 ? 0 : 3);
+        EXPECT_EQ(scripts.count, obstacle == path ? 0 : 4);
+        EXPECT_EQ(file().count("sent_unverified"), obstacle == path ? 0 : 3);
         ASSERT_TRUE(QDir().rmdir(obstacle));
         sendLog.retry();
         EXPECT_EQ(file(), displayed());
@@ -182,6 +180,3 @@ TEST_F(VerificationTest, ALoadedLogIsSettledByTheHistory) {
     EXPECT_EQ(runner->log()[0].time, clock().now());
     EXPECT_EQ(file(), displayed());
 }
-
-}  // namespace
-}  // namespace velmora
