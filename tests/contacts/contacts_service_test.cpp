@@ -9,8 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace velmora {
-namespace {
+using namespace velmora;
 
 using People = std::expected<std::vector<ContactRecord>, ContactsError>;
 
@@ -113,6 +112,3 @@ TEST_F(ContactsTest, TheBestPhoneIsTheFirstUsableOneOfTheHighestRank) {
         EXPECT_EQ(best.phone + u' ' + best.label, expected);
     }
 }
-
-}  // namespace
-}  // namespace velmora

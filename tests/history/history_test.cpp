@@ -11,8 +11,7 @@
 #include "support/rehearsal_home.h"
 #include "support/virtual_surroundings.h"
 
-namespace velmora {
-namespace {
+using namespace velmora;
 
 using Range = std::numeric_limits<qint64>;
 using Real = std::numeric_limits<double>;
@@ -233,6 +232,3 @@ TEST(PhoneAliases, AreTheSelectedNumbersElseAllAndNoneWithoutAList) {
     stored.value = QVariantMap{{u"allAliases"_s, QStringList{u"+1"_s}}};
     EXPECT_EQ(phoneAliases(stored), QStringList{u"+1"_s});
 }
-
-}  // namespace
-}  // namespace velmora

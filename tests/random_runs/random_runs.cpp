@@ -5,8 +5,8 @@
 #include <QCoreApplication>
 #include <cstdio>
 #include <random>
+#include <ranges>
 
-#include "core/system_surroundings.h"
 #include "platform/rehearsal/script_parser.h"
 #include "sending/sending_world.h"
 
@@ -16,30 +16,32 @@ using namespace velmora;
 
 namespace {
 
-struct HandedText {
-    double uptime = 0;
-    QString phone;
-    Service service = Service::iMessage;
-};
+/// What Messages does with one person's texts.
+constexpr std::array<const char*, 11> behaviours = {
+    R"({})",
+    R"({"iMessage": {"error": 22}})",
+    R"({"error": 22})",
+    R"({"scriptError": "Messages got an error."})",
+    R"({"SMS": {"scriptError": "No SMS."}, "iMessage": {"error": 3}})",
+    R"({"sentAfter": 50, "deliveredAfter": null})",
+    R"({"recordAfter": 21, "error": 22})",
+    R"({"iMessage": {"recordAfter": 26, "error": 22}})",
+    R"({"recordAfter": null})",
+    R"({"line": "+15550100002"})",
+    R"({"line": "me@example.com"})"};
 
-/// What Messages does with one person's texts; whether it records an error for an iMessage.
-struct Behaviour {
-    const char* json;
-    bool failsIMessage;
+/// What is known of an evening so far.
+struct Evening {
+    QSet<QString> sentBefore;
+    qint64 linesBefore = 0;
+    qint64 total = 0;  ///< whom the run is to text
+    qint64 people = 0;
+    QStringList handed = {};
+    double last = -1;  ///< when the last person's turn came
+    bool isStopped = false;
+    bool wasPaused = false;  ///< since then
+    bool mayIgnoreHours = false;
 };
-constexpr std::array<Behaviour, 11> behaviours = {{
-    {R"({})", false},
-    {R"({"iMessage": {"error": 22}})", true},
-    {R"({"error": 22})", true},
-    {R"({"scriptError": "Messages got an error."})", false},
-    {R"({"SMS": {"scriptError": "No SMS."}, "iMessage": {"error": 3}})", true},
-    {R"({"sentAfter": 50, "deliveredAfter": null})", false},
-    {R"({"recordAfter": 21, "error": 22})", true},
-    {R"({"iMessage": {"recordAfter": 26, "error": 22}})", true},
-    {R"({"recordAfter": null})", false},
-    {R"({"line": "+15550100002"})", false},
-    {R"({"line": "me@example.com"})", false},
-}};
 
 class RandomRun : SendingWorld {
   public:
@@ -67,12 +69,9 @@ class RandomRun : SendingWorld {
         std::map<int, QByteArray> people;
         count_ = upTo(8);
         for (int n = 0; n < count_; ++n) {
-            const Behaviour& one = behaviours[static_cast<size_t>(often(40) ? 0 : upTo(10))];
-            people[n] = one.json;
-            failsIMessage_[phone(n)] = one.failsIMessage;
-            const QString status = stored[upTo(2)];
+            people[n] = behaviours[static_cast<size_t>(often(40) ? 0 : upTo(10))];
             if (often(15))
-                store(n, status, 9e5);
+                store(n, stored[upTo(2)], 9e5);
         }
         messages(people);
         config.delayMin = seconds(60);
@@ -91,73 +90,67 @@ class RandomRun : SendingWorld {
     void answer() {
         if (runner->state != State::paused)
             return;
-        paused_ = true;
+        evening_.wasPaused = true;
         const bool resumes = often(75);
         const bool asksForHours = runner->message.value().startsWith(u"Outside");
-        must(!asksForHours || !mayIgnoreHours_, u"the hours are asked for twice"_s);
+        must(!asksForHours || !evening_.mayIgnoreHours, u"the hours are asked for twice"_s);
         clock().after(seconds(90), [this, resumes, asksForHours] {
-            mayIgnoreHours_ = mayIgnoreHours_ || (resumes && asksForHours);
+            evening_.mayIgnoreHours |= resumes && asksForHours;
             resumes ? runner->resume() : stop();
         });
     }
     void stop() {
-        if (runner->isActive())
-            stoppedAfter_ = handed_.size();
+        evening_.isStopped |= runner->isActive();
         runner->stop();
     }
 
     void judgeText(const QString& source) {
-        const auto text = parseMessageScript(source);
-        must(text.has_value(), u"a script is not understood"_s);
-        if (!text)
-            return;
-        const HandedText now{clock().uptime(), text->phone, text->service};
-        const auto isSame = [&now](const HandedText& other) {
-            return other.phone == now.phone && other.service == now.service;
-        };
-        must(std::ranges::none_of(handed_, isSame), now.phone + u" is texted twice"_s);
-        must(!sentBefore_.contains(now.phone), now.phone + u" was sent before"_s);
+        const auto text = parseMessageScript(source).value();
+        const QString handed = text.phone + serviceName(text.service);
+        must(!evening_.handed.contains(handed), text.phone + u" is texted twice"_s);
+        must(!evening_.sentBefore.contains(text.phone), text.phone + u" was sent before"_s);
         const std::vector<LogEntry> lines = SendLog(folder, clock()).load(batch);
-        const auto own = std::ranges::find(lines.begin() + linesBefore_, lines.end(), now.phone,
-                                           &LogEntry::phone);
+        const auto own = std::ranges::find(lines.begin() + evening_.linesBefore, lines.end(),
+                                           text.phone, &LogEntry::phone);
         must(own != lines.end() && own->status == statusUnverified,
-             now.phone + u" is texted before the log says so"_s);
-        const bool inHand = !handed_.empty() && handed_.back().phone == now.phone;
-        must(!stoppedAfter_ || inHand, u"a text leaves after the stop"_s);
+             text.phone + u" is texted before the log says so"_s);
+        const bool inHand =
+            evening_.handed.value(evening_.handed.size() - 1).startsWith(text.phone);
+        must(!evening_.isStopped || inHand, u"a text leaves after the stop"_s);
         must(activities.held == 1, u"the computer may go to sleep"_s);
         start(1);  // which is to have no effect
-        if (now.service == Service::sms) {
-            must(failsIMessage_[now.phone], now.phone + u" gets an SMS for nothing"_s);
-        } else {
-            must(mayIgnoreHours_ || !isOutsideSendingHours(config, clock().now()), u"it is late"_s);
-            const double least = std::min(config.delayMin, config.delayMax);
-            must(last_ < 0 || now.uptime - last_ >= least, u"a wait is too short"_s);
-            const double most = std::max(config.delayMin, config.delayMax) + 1 +
-                                (2 + 2 * count_) * (config.verifyWait + 2);
-            must(last_ < 0 || paused_ || now.uptime - last_ <= most, u"a wait is too long"_s);
-            must(std::ssize(runner->log()) == linesBefore_ + people_,
-                 u"a line is shown before its outcome"_s);
-            last_ = now.uptime;
-            paused_ = false;
-            ++people_;
-        }
-        handed_.push_back(now);
+        if (text.service == Service::iMessage)
+            judgeTurn();
+        else
+            must(recordOf(text.phone).error != 0, text.phone + u" gets an SMS for nothing"_s);
+        evening_.handed += handed;
+    }
+
+    /// A person's turn comes in the sending hours, and neither too early nor too late.
+    void judgeTurn() {
+        const double wait = clock().uptime() - std::exchange(evening_.last, clock().uptime());
+        const auto [least, longest] = std::minmax(config.delayMin, config.delayMax);
+        const double checks = (2 + 2 * count_) * (config.verifyWait + 2);
+        const bool isFirst = evening_.people == 0;
+        must(isFirst || wait >= least, u"a wait is too short"_s);
+        must(isFirst || evening_.wasPaused || wait <= longest + 1 + checks,
+             u"a wait is too long"_s);
+        must(evening_.mayIgnoreHours || !isOutsideSendingHours(config, clock().now()),
+             u"it is late"_s);
+        must(std::ssize(runner->log()) == evening_.linesBefore + evening_.people,
+             u"a line is shown before its outcome"_s);
+        evening_.wasPaused = false;
+        ++evening_.people;
     }
 
     void playEvening() {
-        handed_.clear();
-        stoppedAfter_.reset();
-        last_ = -1;
-        people_ = 0;
-        mayIgnoreHours_ = paused_ = false;
         runner->batch = batch;
         runner->reloadLog();
-        sentBefore_ = SendLog(folder, clock()).alreadySent(batch);
-        linesBefore_ = std::ssize(runner->log());
-        qint64 left = 0;
-        for (int n = 0; n < count_; ++n)
-            left += sentBefore_.contains(phone(n)) ? 0 : 1;
-        total_ = std::min(left, std::max<qint64>(config.maxPerRun, 1));
+        evening_ = {.sentBefore = SendLog(folder, clock()).alreadySent(batch),
+                    .linesBefore = std::ssize(runner->log())};
+        const auto isLeft = [this](int n) { return !evening_.sentBefore.contains(phone(n)); };
+        const qint64 left = std::ranges::count_if(std::views::iota(0, count_), isLeft);
+        evening_.total = std::min(left, std::max<qint64>(config.maxPerRun, 1));
         start(count_);
         if (often(25))
             clock().after(seconds(200), [this] { stop(); });
@@ -167,45 +160,36 @@ class RandomRun : SendingWorld {
     }
 
     void judgeEnd() {
+        const auto& [total, people] = std::pair(evening_.total, evening_.people);
         must(runner->state == State::done && activities.held == 0, u"something is held"_s);
         must(!runner->current.value() && !runner->nextIn.value(), u"something is still shown"_s);
-        must(stoppedAfter_ ? people_ <= total_ : people_ == total_, u"too few or too many"_s);
-        must(runner->log().empty() || file() == displayed(),
-             u"the file is not the log that is shown"_s);
+        must(evening_.isStopped ? people <= total : people == total, u"too few or too many"_s);
+        must(runner->log().empty() || file() == displayed(), u"the file is not what is shown"_s);
         const std::vector<LogEntry> lines = SendLog(folder, clock()).load(batch);
-        must(std::ssize(lines) == linesBefore_ + people_, u"not everybody has a line"_s);
+        must(std::ssize(lines) == evening_.linesBefore + people, u"not everybody has a line"_s);
         qint64 failed = 0;
-        for (auto n = static_cast<size_t>(linesBefore_); n < lines.size(); ++n) {
-            failed += lines[n].status == statusFailed ? 1 : 0;
-            must(lines[n].status != statusSent || wasSent(lines[n].phone),
-                 lines[n].phone + u" was not sent"_s);
+        for (const LogEntry& each : lines | std::views::drop(evening_.linesBefore)) {
+            failed += each.status == statusFailed ? 1 : 0;
+            const SentRecord record = recordOf(each.phone);
+            must(each.status != statusSent || (record.error == 0 && record.isConclusive()),
+                 each.phone + u" was not sent"_s);
         }
         const QString form =
-            stoppedAfter_ ? u"Stopped after %1 of %2."_s : u"Finished. %1 of %2 processed."_s;
+            evening_.isStopped ? u"Stopped after %1 of %2."_s : u"Finished. %1 of %2 processed."_s;
         const QString tail = failed > 0 ? u" %1 failed."_s.arg(failed) : QString();
-        must(runner->message.value() == form.arg(people_).arg(total_) + tail,
+        must(runner->message.value() == form.arg(people).arg(total) + tail,
              u"the summary says: "_s + runner->message.value());
     }
 
-    bool wasSent(const QString& phone) {
-        auto history = MessagesDB::open(home.historyPath());
-        const auto record = history->lastSent(phone, 0);
-        return record && *record && (*record)->error == 0 && (*record)->isConclusive();
+    SentRecord recordOf(const QString& phone) {
+        auto history = MessagesDB::open(home.historyPath()).value();
+        return history.lastSent(phone, 0)->value_or(SentRecord());
     }
 
     std::mt19937 random_;
     QString fault_;
     int count_ = 0;
-    std::map<QString, bool> failsIMessage_;
-    QSet<QString> sentBefore_;
-    std::vector<HandedText> handed_;
-    std::optional<size_t> stoppedAfter_;
-    bool mayIgnoreHours_ = false;
-    bool paused_ = false;
-    double last_ = -1;
-    qint64 people_ = 0;
-    qint64 total_ = 0;
-    qint64 linesBefore_ = 0;
+    Evening evening_;
 };
 
 int runMany(unsigned wanted, unsigned first) {

@@ -3,8 +3,7 @@
 #include "sending/pacing.h"
 #include "sending/sending_world.h"
 
-namespace velmora {
-namespace {
+using namespace velmora;
 
 struct RunnerTest : ::testing::Test, SendingWorld {};
 
@@ -35,43 +34,33 @@ TEST_F(RunnerTest, CountsDownBetweenTwoSends) {
     expectDone(u"Finished. 2 of 2 processed."_s);
 }
 
-// Catches a stop that is lost, late, or cuts a send in progress short.
+// Catches a stop that is lost, late, or cuts a send in progress short: before the first step, in a
+// send, in a wait, in the final check.
 TEST_F(RunnerTest, StopsInEveryState) {
     runner->stop();
     runner->resume();
     EXPECT_EQ(runner->state.value(), State::idle);
-
-    start(3);
-    runner->stop();
-    EXPECT_EQ(runner->state.value(), State::stopping);
-    expectDone(u"Stopped after 0 of 3."_s);
-
-    start(3);
-    clock().advance(1);
-    EXPECT_EQ(runner->current.value(), u"Person 0"_s);
-    runner->stop();
-    runner->resume();
-    expectDone(u"Stopped after 1 of 3."_s);
-    EXPECT_EQ(outcomes().value(0), u"sent|iMessage|me|"_s);
-
-    start(3);
-    clock().advance(5);
-    ASSERT_TRUE(runner->nextIn.value());
-    runner->stop();
-    clock().advance(0.5);
-    EXPECT_FALSE(runner->isActive());
-    expectDone(u"Stopped after 1 of 2."_s);
-    runner->stop();
-    EXPECT_EQ(runner->state.value(), State::done);
-
     messages({{2, R"({"recordAfter": null})"}});
-    start(3);
-    clock().advance(30);
-    EXPECT_EQ(runner->message.value(), u"Checking the last sends."_s);
-    runner->stop();
-    clock().advance(5);
-    EXPECT_FALSE(runner->isActive());
-    expectDone(u"Stopped after 1 of 1."_s);
+    for (const auto& [moment, longest, summary] : {std::tuple(0.0, 0.0, u"Stopped after 0 of 3."_s),
+                                                   {1.0, 2.0, u"Stopped after 1 of 3."_s},
+                                                   {5.0, 0.5, u"Stopped after 1 of 2."_s},
+                                                   {30.0, 5.0, u"Stopped after 1 of 1."_s}}) {
+        start(3);
+        if (moment > 0)
+            clock().advance(moment);
+        EXPECT_EQ(runner->current.value().has_value(), moment == 1);
+        EXPECT_EQ(runner->nextIn.value().has_value(), moment == 5);
+        EXPECT_EQ(runner->message.value(), moment == 30 ? u"Checking the last sends."_s : u""_s);
+        runner->stop();
+        EXPECT_EQ(runner->state.value(), State::stopping);
+        runner->resume();
+        clock().advance(longest);
+        EXPECT_FALSE(runner->isActive()) << moment;
+        expectDone(summary);
+        runner->stop();
+        EXPECT_EQ(runner->state.value(), State::done);
+    }
+    EXPECT_EQ(outcomes().first(2), QStringList(2, u"sent|iMessage|me|"_s));
 }
 
 // Catches a question for every person, a text that leaves although the user stopped right after the
@@ -165,6 +154,3 @@ TEST(Pacing, StaysWithinADayForAnySettings) {
     EXPECT_EQ(wholeSecondsUp(-1e300), Whole::min());
     EXPECT_EQ(wholeSecondsUp(Real::quiet_NaN()), 0);
 }
-
-}  // namespace
-}  // namespace velmora

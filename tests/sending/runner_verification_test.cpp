@@ -1,7 +1,6 @@
 #include "sending/sending_world.h"
 
-namespace velmora {
-namespace {
+using namespace velmora;
 
 const QString noRecord = u"No record in Messages yet. Check the thread on your phone."_s;
 const QString notConfirmed = u"Messages hasn't confirmed it yet. Check the thread."_s;
@@ -137,8 +136,7 @@ TEST_F(VerificationTest, ARunWithoutTheHistoryEndsUnverified) {
 TEST_F(VerificationTest, ATextLeavesWhenItsPersonStandsInTheFile) {
     messages({{1, R"({"iMessage": {"error": 22}})"}});
     const QString path = sendLog.logFile(batch);
-    for (const auto& [obstacle, handedOver] :
-         {std::pair(path, 0), std::pair(path + u".new"_s, 4)}) {
+    for (const QString& obstacle : {path, path + u".new"_s}) {
         ASSERT_TRUE(QDir().mkpath(obstacle));
         const QObject heard;
         QObject::connect(runner.get(), &Runner::doneChanged, &heard, [&, obstacle = obstacle] {
@@ -149,7 +147,7 @@ TEST_F(VerificationTest, ATextLeavesWhenItsPersonStandsInTheFile) {
         });
         start(3);
         settle();
-        EXPECT_EQ(scripts.count, handedOver) << qPrintable(obstacle);
+        EXPECT_EQ(scripts.count, obstacle == path ? 0 : 4);
         EXPECT_EQ(file(), displayed());
     }
     EXPECT_EQ(file().count(",sent,"), 3);
@@ -186,6 +184,3 @@ TEST_F(VerificationTest, ALoadedLogIsSettledByTheHistory) {
     EXPECT_EQ(runner->log()[0].time, clock().now());
     EXPECT_EQ(file(), displayed());
 }
-
-}  // namespace
-}  // namespace velmora

@@ -1,7 +1,6 @@
 #include "storage/storage_world.h"
 
-namespace velmora {
-namespace {
+using namespace velmora;
 
 // The file is the user's record: every line must be there once, readable by a spreadsheet.
 TEST_F(StorageTest, AppendAndRewriteGiveTheDocumentedLog) {
@@ -182,6 +181,3 @@ TEST_F(StorageTest, OnlyOrdinaryFilesAreReadAndWritten) {
     EXPECT_EQ(read(real), header + row + "sent,\n") << "a link to a file is the file";
     EXPECT_EQ(createFile(real, "x").error().kind, FileError::Kind::exists);
 }
-
-}  // namespace
-}  // namespace velmora

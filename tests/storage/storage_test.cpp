@@ -2,8 +2,7 @@
 
 #include "storage/storage_world.h"
 
-namespace velmora {
-namespace {
+using namespace velmora;
 
 AppConfig fullConfig() {
     AppConfig config;
@@ -104,6 +103,3 @@ TEST(SupportFolder, TakesTheOlderOneOnlyIntoAFreePlace) {
     EXPECT_EQ(ConfigStore(blocked).load(), AppConfig());
     EXPECT_EQ(read(plain), "file");
 }
-
-}  // namespace
-}  // namespace velmora
