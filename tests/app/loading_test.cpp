@@ -117,8 +117,9 @@ TEST_F(List, EveryoneIsCheckedInTheOrderOfTheAddressBook) {
     EXPECT_TRUE(recipient(u"zoe"_s).usable && !recipient(u"abe"_s).usable);
 
     model->setSenderNumber(myOtherLine);
-    const QString otherLine = recipient(u"ann"_s).issue.value_or(QString());
-    EXPECT_TRUE(otherLine.startsWith(u"Your thread with them is on (212) 555-9999. Text them"));
+    EXPECT_EQ(recipient(u"ann"_s).issue,
+              u"Your thread with them is on (212) 555-9999. Text them once by hand from "
+              "(212) 555-8888 first."_s);
     model->setSenderNumber(QString());
     EXPECT_EQ(recipient(u"ann"_s).issue, std::nullopt);
     changeHistory(home.historyPath(), "DROP TABLE handle");
