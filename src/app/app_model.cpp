@@ -1,10 +1,7 @@
 #include "app/app_model.h"
 
 #include <QLocale>
-#include <algorithm>
 #include <utility>
-
-#include "app/recipient_check.h"
 
 using namespace Qt::StringLiterals;
 
@@ -78,10 +75,6 @@ QString AppModel::defaultBatchName() const {
     const std::optional<GroupInfo> group = currentGroup();
     const QDate today = localTime(surroundings_.clock.now()).date();
     return (group ? group->name : u"run"_s) + u' ' + QLocale().toString(today, u"yyyy-MM-dd"_s);
-}
-
-qsizetype AppModel::attentionCount() const {
-    return std::ranges::count_if(recipients_, needsAttention, &Recipient::issue);
 }
 
 }  // namespace velmora

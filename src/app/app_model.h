@@ -137,7 +137,7 @@ class AppModel final : public AppState {
     /// Stores the note as typed; an empty one is removed.
     void setNote(const QString& id, const QString& note);
     /// How many people have an issue beyond a new thread.
-    [[nodiscard]] qsizetype attentionCount() const;
+    [[nodiscard]] qsizetype attentionCount() const { return attentionCount_; }
 
     // The message.
 
@@ -204,6 +204,7 @@ class AppModel final : public AppState {
     Runner runner_;
     AppConfig config_;
     std::vector<Recipient> recipients_;
+    qsizetype attentionCount_ = 0;
     mutable std::optional<RecipientSearch> search_;  // made when somebody searches
     QSet<QString> selection_;
     QString loadedBatch_;

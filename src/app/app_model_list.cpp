@@ -79,6 +79,7 @@ void AppModel::tellOfLog() {
 
 void AppModel::publish(std::vector<Recipient> list) {
     recipients_ = std::move(list);
+    attentionCount_ = std::ranges::count_if(recipients_, needsAttention, &Recipient::issue);
     search_.reset();
     Q_EMIT recipientsReplaced();
 }

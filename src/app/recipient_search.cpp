@@ -9,6 +9,9 @@ namespace velmora {
 
 namespace {
 
+// Between two parts, and no character that anybody types.
+constexpr QChar partEnd(u'\uFFFF');
+
 // One spelling for what reads the same: accents composed first, since a card may hold them either
 // way, then letter case folded.
 QString folded(const QString& text) {
@@ -25,34 +28,41 @@ QString digitsOf(const QString& text) {
 }  // namespace
 
 RecipientSearch::RecipientSearch(const std::vector<Recipient>& recipients) {
-    people_.reserve(recipients.size());
-    const auto add = [this](const QString& part) {
-        text_ += part;
-        return text_.size();
-    };
-    for (const Recipient& each : recipients)
-        people_.push_back({add(folded(each.name)), add(folded(each.company)), add(each.phone)});
+    for (const Recipient& each : recipients) {
+        words_.add(folded(each.name + partEnd + each.company));
+        phones_.add(each.phone);
+    }
 }
 
 std::vector<qsizetype> RecipientSearch::find(const QString& typed) const {
     const QString wanted = trimmedSpacesAndTabs(typed).toString();
     const QString digits = digitsOf(wanted);
-    const QStringMatcher text(folded(wanted));
-    const QStringMatcher number(digits);
-    std::vector<qsizetype> found;
-    qsizetype begin = 0;
-    for (qsizetype index = 0; index < std::ssize(people_); ++index) {
-        const Ends& person = people_[static_cast<size_t>(index)];
-        const auto holds = [this](const QStringMatcher& part, qsizetype from, qsizetype to) {
-            return part.indexIn(QStringView(text_).sliced(from, to - from)) >= 0;
-        };
-        if (wanted.isEmpty() || holds(text, begin, person.name) ||
-            holds(text, person.name, person.company) ||
-            (digits.size() >= 3 && holds(number, person.company, person.phone)))
-            found.push_back(index);
-        begin = person.phone;
+    std::vector<bool> found(words_.ends.size(), wanted.isEmpty());
+    words_.mark(folded(wanted), found);
+    if (digits.size() >= 3)
+        phones_.mark(digits, found);
+    std::vector<qsizetype> indexes;
+    for (size_t person = 0; person < found.size(); ++person)
+        if (found[person])
+            indexes.push_back(static_cast<qsizetype>(person));
+    return indexes;
+}
+
+void RecipientSearch::Block::add(const QString& part) {
+    text += part;
+    text += partEnd;
+    ends.push_back(text.size());
+}
+
+// Goes on behind each person who was found.
+void RecipientSearch::Block::mark(const QString& wanted, std::vector<bool>& found) const {
+    const QStringMatcher matcher(wanted);
+    qsizetype place = wanted.isEmpty() ? -1 : matcher.indexIn(text);
+    for (size_t person = 0; place >= 0; place = matcher.indexIn(text, ends[person])) {
+        while (ends[person] <= place)
+            ++person;
+        found[person] = true;
     }
-    return found;
 }
 
 }  // namespace velmora

@@ -7,8 +7,8 @@
 
 namespace velmora {
 
-/// Finds people of a list by name, company or phone while the user types. Holds what is compared in
-/// one text, worked out once for a list.
+/// Finds people of a list by name, company or phone while the user types. What is compared
+/// is worked out once for a list.
 class RecipientSearch {
   public:
     explicit RecipientSearch(const std::vector<Recipient>& recipients);
@@ -19,15 +19,17 @@ class RecipientSearch {
     [[nodiscard]] std::vector<qsizetype> find(const QString& typed) const;
 
   private:
-    /// Where a person's part of the text ends; it begins where the one before ends.
-    struct Ends {
-        qsizetype name = 0;
-        qsizetype company = 0;
-        qsizetype phone = 0;
+    /// What is compared of everyone, one behind the other, and where each person's part ends.
+    struct Block {
+        QString text;
+        std::vector<qsizetype> ends;
+
+        void add(const QString& part);
+        void mark(const QString& wanted, std::vector<bool>& found) const;
     };
 
-    QString text_;  // each person's name, company and phone, one behind the other
-    std::vector<Ends> people_;
+    Block words_;  // names and companies
+    Block phones_;
 };
 
 }  // namespace velmora

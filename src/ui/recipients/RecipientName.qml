@@ -9,20 +9,22 @@ Item {
     required property recipientEntry entry
 
     readonly property int gap: 6
+    readonly property real nameWidth: nameText.truncated ? nameText.width : nameText.contentWidth
     readonly property real room: width - (sent.visible ? sent.width + gap : 0)
 
-    implicitHeight: nameText.implicitHeight
+    implicitHeight: nameText.height
 
     LineText {
         id: nameText
-        width: Math.max(0, Math.min(implicitWidth, line.room))
+        // Not what the name takes, which would have each name laid out twice.
+        width: Math.max(0, line.room)
         text: line.entry.name
         font.pixelSize: Theme.headline
         font.weight: Font.DemiBold
     }
     LineText {
         id: companyText
-        x: nameText.width + line.gap
+        x: line.nameWidth + line.gap
         width: Math.max(0, Math.min(implicitWidth, line.room - x))
         visible: text.length > 0 && line.room - x > 2 * Theme.body
         text: line.entry.company
@@ -30,7 +32,7 @@ Item {
     }
     LabelWithSymbol {
         id: sent
-        x: (companyText.visible ? companyText.x + companyText.width : nameText.width) + line.gap
+        x: (companyText.visible ? companyText.x + companyText.width : line.nameWidth) + line.gap
         y: (nameText.height - height) / 2
         width: implicitWidth
         visible: text.length > 0

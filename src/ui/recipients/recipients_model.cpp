@@ -15,6 +15,13 @@ QString keyOf(const Recipient& recipient) {
     return recipient.usable ? recipient.id : u'\n' + recipient.id;
 }
 
+QStringList missingFrom(const QSet<QString>& selection, const QSet<QString>& other) {
+    QStringList missing;
+    std::ranges::copy_if(other, std::back_inserter(missing),
+                         [&](const QString& id) { return !selection.contains(id); });
+    return missing;
+}
+
 }  // namespace
 
 RecipientsModel::RecipientsModel(AppModel& model) : model_(model) {
@@ -28,11 +35,7 @@ RecipientsModel::RecipientsModel(AppModel& model) : model_(model) {
     connect(&model_, &AppModel::bootstrappedChanged, this, &RecipientsModel::contentChanged);
     connect(&model_, &AppModel::recipientTextsChanged, this, &RecipientsModel::announceAll);
     connect(&model_, &AppModel::recipientTextChanged, this, [this](qsizetype index) {
-        const auto changed =
-            std::ranges::find(rows_, keyOf(model_.recipients()[static_cast<size_t>(index)]));
-        const int row = static_cast<int>(changed - rows_.begin());
-        if (changed != rows_.end())
-            announce(row, row);
+        announceRow(rowOf(model_.recipients()[static_cast<size_t>(index)].id));
     });
     followConfig();
     followEditing();
@@ -43,11 +46,16 @@ RecipientsModel::RecipientsModel(AppModel& model) : model_(model) {
 // The people or the filter are others.
 
 void RecipientsModel::followRecipients() {
-    indexes_.clear();
-    indexes_.reserve(std::ssize(model_.recipients()));
-    qsizetype index = 0;
-    for (const Recipient& each : model_.recipients())
-        indexes_.insert(keyOf(each), index++);
+    std::vector<QString> keys;
+    keys.reserve(model_.recipients().size());
+    std::ranges::transform(model_.recipients(), std::back_inserter(keys), keyOf);
+    QHash<QStringView, qsizetype> indexes;
+    indexes.reserve(std::ssize(keys));
+    for (const QString& key : keys)
+        indexes.insert(key, indexes.size());
+    for (qsizetype& row : rows_)
+        row = indexes.value(keys_[static_cast<size_t>(row)], -1);
+    keys_ = std::move(keys);
     selection_ = model_.selection();
     followRows();
     announceAll();
@@ -59,7 +67,7 @@ void RecipientsModel::followFilter() {
 }
 
 void RecipientsModel::followRows() {
-    const std::vector<QString> wanted = visibleKeys();
+    const std::vector<qsizetype> wanted = visibleRows();
     // The view may hear of these rows together with the next ones: where it stood means nothing
     // then.
     if (wanted.empty())
@@ -82,32 +90,23 @@ void RecipientsModel::followRows() {
     Q_EMIT contentChanged();
 }
 
-std::vector<QString> RecipientsModel::visibleKeys() const {
-    std::vector<QString> keys;
-    std::vector<QString> blocked;
-    for (const qsizetype index : model_.visibleRecipients()) {
-        const Recipient& each = model_.recipients()[static_cast<size_t>(index)];
-        (each.usable ? keys : blocked).push_back(keyOf(each));
-    }
-    keys.insert(keys.end(), blocked.begin(), blocked.end());
-    return keys;
+std::vector<qsizetype> RecipientsModel::visibleRows() const {
+    std::vector<qsizetype> rows = model_.visibleRecipients();
+    std::ranges::stable_partition(rows, [this](qsizetype index) {
+        return model_.recipients()[static_cast<size_t>(index)].usable;
+    });
+    return rows;
 }
 
 // A part of each row is another.
 
 void RecipientsModel::followSelection() {
     const QSet<QString> before = std::exchange(selection_, model_.selection());
-    int first = -1;
-    int last = -1;
-    for (int row = 0; row < rowCount(); ++row) {
-        const Recipient* recipient = recipientAt(row);
-        if (recipient == nullptr ||
-            before.contains(recipient->id) == selection_.contains(recipient->id))
-            continue;
-        first = first < 0 ? row : first;
-        last = row;
-    }
-    announce(first, last);
+    const QStringList changed = missingFrom(selection_, before) + missingFrom(before, selection_);
+    if (changed.size() == 1)
+        announceRow(rowOf(changed.constFirst()));
+    else if (!changed.isEmpty())
+        announceAll();
     if (model_.selectedOnly)
         followRows();
 }
@@ -128,13 +127,9 @@ void RecipientsModel::followRun() {
 
 void RecipientsModel::followEditing() {
     const auto before = std::exchange(editingNoteID_, model_.editingNoteID.value());
-    for (const auto& id : {before, editingNoteID_}) {
-        const auto row = id ? std::ranges::find(rows_, *id) : rows_.end();
-        if (row != rows_.end()) {
-            const int changed = static_cast<int>(row - rows_.begin());
-            announce(changed, changed);
-        }
-    }
+    for (const auto& id : {before, editingNoteID_})
+        if (id)
+            announceRow(rowOf(*id));
 }
 
 void RecipientsModel::announce(int first, int last) {

@@ -89,7 +89,8 @@ class RecipientsModel final : public QAbstractListModel {
     [[nodiscard]] bool isChecked(const Recipient& recipient) const;
     [[nodiscard]] bool isCheckable(const Recipient& recipient) const;
     [[nodiscard]] bool isFiltered() const;
-    [[nodiscard]] std::vector<QString> visibleKeys() const;
+    [[nodiscard]] std::vector<qsizetype> visibleRows() const;
+    [[nodiscard]] int rowOf(const QString& id) const;
 
     void followRecipients();
     void followRows();
@@ -99,11 +100,12 @@ class RecipientsModel final : public QAbstractListModel {
     void followRun();
     void followEditing();
     void announce(int first, int last);
+    void announceRow(int row) { announce(row, row); }
     void announceAll() { announce(0, rowCount() - 1); }
 
     AppModel& model_;
-    QHash<QString, qsizetype> indexes_;  // into the model's recipients, by key
-    std::vector<QString> rows_;          // the keys of the rows that the view knows
+    std::vector<QString> keys_;    // of the model's recipients
+    std::vector<qsizetype> rows_;  // that the view knows, as indexes into the recipients
     int revision_ = 0;
     int topRow_ = -1;
 

@@ -42,14 +42,22 @@ RecipientEntry RecipientsModel::entryAt(int row) const {
 const Recipient* RecipientsModel::recipientAt(int row) const {
     if (row < 0 || row >= rowCount())
         return nullptr;
-    const qsizetype index = indexes_.value(rows_[static_cast<size_t>(row)], -1);
+    const qsizetype index = rows_[static_cast<size_t>(row)];
     return index < 0 ? nullptr : &model_.recipients()[static_cast<size_t>(index)];
 }
 
-// The first row whose key is that of someone who can't be texted.
+int RecipientsModel::rowOf(const QString& id) const {
+    const auto found = std::ranges::find_if(rows_, [&](qsizetype index) {
+        return index >= 0 && model_.recipients()[static_cast<size_t>(index)].id == id;
+    });
+    return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
+
+// The first row of someone who can't be texted.
 int RecipientsModel::firstBlocked() const {
-    const auto first = std::ranges::partition_point(
-        rows_, [](const QString& key) { return !key.startsWith(u'\n'); });
+    const auto first = std::ranges::partition_point(rows_, [this](qsizetype index) {
+        return index < 0 || model_.recipients()[static_cast<size_t>(index)].usable;
+    });
     return static_cast<int>(first - rows_.begin());
 }
 

@@ -1,6 +1,5 @@
 #include "ui/recipients/row_changes.h"
 
-#include <QHash>
 #include <algorithm>
 #include <ranges>
 
@@ -12,16 +11,17 @@ constexpr qsizetype mostSteps = 200;
 constexpr qsizetype keptAround = 80;  // more than a tall display shows
 
 // Where each row of one list stands in the other; -1 where it does not.
-std::vector<qsizetype> findPlaces(const std::vector<QString>& before,
-                                  const std::vector<QString>& after) {
-    QHash<QStringView, qsizetype> places;
-    places.reserve(std::ssize(after));
-    for (qsizetype place = 0; place < std::ssize(after); ++place)
-        places.insert(after[static_cast<size_t>(place)], place);
+std::vector<qsizetype> findPlaces(const std::vector<qsizetype>& before,
+                                  const std::vector<qsizetype>& after) {
+    const auto last = std::ranges::max_element(after);
+    std::vector<qsizetype> places(last == after.end() ? 0 : static_cast<size_t>(*last) + 1, -1);
+    for (size_t place = 0; place < after.size(); ++place)
+        places[static_cast<size_t>(after[place])] = static_cast<qsizetype>(place);
     std::vector<qsizetype> found;
     found.reserve(before.size());
-    for (const QString& row : before)
-        found.push_back(places.value(row, -1));
+    for (const qsizetype row : before)
+        found.push_back(row >= 0 && row < std::ssize(places) ? places[static_cast<size_t>(row)]
+                                                             : -1);
     return found;
 }
 
@@ -67,8 +67,8 @@ std::vector<RowChange> stepsOf(const Staying& staying) {
 
 }  // namespace
 
-std::vector<RowChange> rowChanges(const std::vector<QString>& before,
-                                  const std::vector<QString>& after, qsizetype kept) {
+std::vector<RowChange> rowChanges(const std::vector<qsizetype>& before,
+                                  const std::vector<qsizetype>& after, qsizetype kept) {
     if (before == after)
         return {};
     const std::vector<qsizetype> places = findPlaces(before, after);

@@ -140,12 +140,12 @@ TEST_F(Recipients, ARunLocksTheRowsAndMarksWhoWasSent) {
     EXPECT_EQ(list->emptyState().title, u"Nobody in this list"_s);
 }
 
-using Rows = std::vector<QString>;
+using Rows = std::vector<qsizetype>;
 
 Rows numbered(int count, int every = 1) {
     Rows rows;
     for (int row = 0; row < count; row += every)
-        rows.push_back(QString::number(row));
+        rows.push_back(row);
     return rows;
 }
 
