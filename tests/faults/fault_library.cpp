@@ -120,10 +120,13 @@ ssize_t read(int handle, void* bytes, size_t size) {
     return real<ssize_t (*)(int, void*, size_t)>("read")(handle, bytes, size);
 }
 ssize_t write(int handle, const void* bytes, size_t size) {
-    if (watched(handle) && fails(ENOSPC)) {
-        // As on a full disk, the first part may be there.
-        return size < 2 ? -1
-                        : real<ssize_t (*)(int, const void*, size_t)>("write")(handle, bytes, 1);
+    // As on a full disk, the first part may be there, and no more.
+    static int filled = -1;
+    if (watched(handle) && (handle == filled || fails(ENOSPC))) {
+        const bool isRest = filled == handle;
+        filled = isRest ? -1 : handle;
+        errno = ENOSPC;
+        return isRest ? -1 : real<ssize_t (*)(int, const void*, size_t)>("write")(handle, bytes, 1);
     }
     if (watched(handle))
         handles[static_cast<size_t>(handle)].isUnsafe = true;
