@@ -93,6 +93,34 @@ bool readRows(const QByteArray& bytes, const Take& take) {
     return understood;
 }
 
+qsizetype lastRowOf(const QByteArray& bytes) {
+    qsizetype begin = 0;
+    bool isQuoted = false;
+    for (qsizetype place = 0; place < bytes.size(); ++place) {
+        isQuoted = isQuoted != (bytes[place] == '"');
+        if (bytes[place] == '\n' && !isQuoted)
+            begin = place + 1;
+    }
+    return begin;
+}
+
+bool beginsLikeTime(QStringView text) {
+    constexpr QStringView time = u"0000-00-00T00:00:00+00:00";
+    const auto fits = [](QChar is, QChar shown) {
+        return shown == u'0' ? is >= u'0' && is <= u'9' : is == shown || shown == u'+';
+    };
+    return text.size() <= time.size() && std::ranges::equal(text, time.first(text.size()), fits);
+}
+
+// Whether the row, which has no end, is the beginning of a line of ours that names nobody.
+bool isBeginning(const QByteArray& row, bool isFirst) {
+    const QString text = QString::fromUtf8(row);
+    CSVReader reader(text);
+    return (isFirst && logHeader().startsWith(row)) ||
+           (reader.nextRow() && reader.fieldCount() < Column::columnCount &&
+            beginsLikeTime(reader.field(Column::time)));
+}
+
 }  // namespace
 
 const QByteArray& logHeader() {
@@ -140,9 +168,13 @@ LogRepair repairOf(const QByteArray& bytes) {
     if (!kept.isValidUtf8())
         return {0, bytes.endsWith('\n') ? "" : "\n"};
     // Every quote opens or closes, a doubled one both.
-    if (kept.count('"') % 2 != 0)
-        return {surplus, "\"\n"};
-    return {surplus, kept.isEmpty() || kept.endsWith('\n') ? "" : "\n"};
+    const bool isQuoted = kept.count('"') % 2 != 0;
+    if (!isQuoted && (kept.isEmpty() || kept.endsWith('\n')))
+        return {surplus, ""};
+    const qsizetype begin = lastRowOf(kept);
+    if (isBeginning(kept.sliced(begin), begin == 0))
+        return {bytes.size() - begin, ""};
+    return {surplus, isQuoted ? "\"\n" : "\n"};
 }
 
 qsizetype lastPlaceOf(const QByteArray& line, const QByteArray& bytes) {

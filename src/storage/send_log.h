@@ -27,7 +27,8 @@ class SendLog {
     /// Adds the entry to the file of its own batch, header first in a new or an empty file. It is
     /// on the disk when this returns, unless it cannot be written: then it is tried again by every
     /// operation below and by `retry`. A last line that was cut off in the middle is ended first,
-    /// so that it swallows no other. Where the file cannot be read, it is added all the same.
+    /// so that it swallows no other, and goes if it is too short to name an outcome. Where the
+    /// file cannot be read, the entry is added all the same.
     void append(const LogEntry& entry);
 
     /// Puts `after` into the place of `before`, a line of the same batch that was written as

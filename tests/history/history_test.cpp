@@ -85,10 +85,10 @@ TEST_F(MessagesDBTest, AnswersInTimeAndAboutAnyNumberOfAddresses) {
     EXPECT_EQ(endless.error().description(), u"Couldn't read Messages history: interrupted");
     EXPECT_EQ(history.lastSent(annsPhone, 0).error().message, u"interrupted"_s) << "and so on";
     QStringList addresses;
-    for (int n = 0; n < 40'000; ++n)
+    for (int n = 0; n < 130'000; ++n)
         addresses.append(u"%1@example.com"_s.arg(n));
     record({.handle = addresses[700], .line = u"+old"_s, .date = 5});
-    record({.handle = addresses[39'000], .line = u"+new"_s, .date = 7});
+    record({.handle = addresses[129'000], .line = u"+new"_s, .date = 7});
     record({.handle = addresses[2], .line = u"+older"_s, .date = 1});
     EXPECT_EQ(threadLine(addresses), u"+new");
 }

@@ -72,8 +72,9 @@ TEST_F(StorageTest, ATornLastLineSwallowsNoOther) {
         permit(folder.logs(), 0x5555);
         asOrdinaryUser([this] { log.append(entry(u"+3"_s)); });
         EXPECT_EQ(log.alreadySent(party), (QSet{u"+1"_s, u"+3"_s})) << torn.constData();
+        EXPECT_TRUE(log.isUnderstood(party)) << torn.constData();
     }
-    for (const QByteArray nothing : {"", "\xc3"}) {
+    for (const QByteArray nothing : {"", "\xc3", "time,ba"}) {
         put(nothing);
         log.append(entry(u"+3"_s));
         EXPECT_EQ(file(), header + rowOf("+3") + "sent,\n") << "taken for the header";
