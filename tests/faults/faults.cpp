@@ -122,13 +122,18 @@ ssize_t read(int handle, void* bytes, size_t size) {
     return passOn<ssize_t>("read", handle, bytes, size);
 }
 ssize_t write(int handle, const void* bytes, size_t size) {
-    const bool failed = isOurs(handle) && fails(ENOSPC);
-    if (failed && size < 2)
-        return -1;
+    // As on a full disk, the first part may be there, and no more.
+    static int filled = -1;
+    auto* const writes = real<ssize_t(int, const void*, size_t)>("write");
+    if (isOurs(handle) && (handle == filled || fails(ENOSPC))) {
+        const bool isRest = handle == filled;
+        filled = isRest ? -1 : handle;
+        errno = ENOSPC;
+        return isRest ? -1 : writes(handle, bytes, 1);
+    }
     if (isOurs(handle))
         known(handle).isUnsafe = true;
-    // As on a full disk, the first part may be there.
-    return real<ssize_t(int, const void*, size_t)>("write")(handle, bytes, failed ? 1 : size);
+    return writes(handle, bytes, size);
 }
 int close(int handle) {
     const bool failed = isOurs(handle) && fails(EIO);
