@@ -68,6 +68,7 @@ Item {
             Layout.preferredWidth: 14
             visible: row.marksColumn || row.symbol.length > 0
             name: row.marked ? "checkmark" : row.symbol
+            weight: row.marked ? "bold" : "regular"
             size: 14
             color: row.tint
         }

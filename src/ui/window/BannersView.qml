@@ -30,7 +30,6 @@ Item {
 
         SymbolIcon {
             name: banners.banner.symbol
-            size: 18
             color: banners.tint
         }
         BodyText {
