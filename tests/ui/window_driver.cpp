@@ -157,10 +157,10 @@ QRect WindowDriver::area(const QString& name, QAccessible::Role role, QWindow* i
 }
 
 bool WindowDriver::click(const QString& name, QAccessible::Role role, QWindow* in) {
-    const QPoint at = place(name, role, in);
-    if (!at.isNull())
-        clickAt(at, in);
-    return !at.isNull();
+    const QRect found = area(name, role, in);
+    if (!found.isNull())
+        clickAt(found.center(), in);
+    return !found.isNull();
 }
 
 void WindowDriver::clickAt(QPoint place, QWindow* in) {
