@@ -8,65 +8,46 @@
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 
+#include "storage/files.h"
 #include "support/rehearsal_home.h"
 
 using namespace Qt::StringLiterals;
 
+using velmora::readFile;
 using velmora::writeTestFile;
 
 namespace {
 
-const QString sourceRoot = QStringLiteral(VELMORA_SOURCE_ROOT);
+const QString scripts = QStringLiteral(VELMORA_SOURCE_ROOT "/packaging/macos/");
 
 struct Outcome {
     int code;
     QString output, errors;
 };
 
-Outcome run(const QString& program, const QStringList& arguments, const QString& tools = {}) {
-    QProcess process;
-    QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
-    surroundings.insert(u"PATH"_s, tools + u':' + surroundings.value(u"PATH"_s));
-    process.setProcessEnvironment(surroundings);
-    process.start(program, arguments);
-    EXPECT_TRUE(process.waitForFinished()) << qPrintable(process.errorString());
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError()).trimmed()};
-}
+/// The tools of a Mac, which only pretend. What describes a program or a library is its content.
+constexpr auto tool = R"(#!/bin/sh
+case ${0##*/} in
+  otool) sed 's/\([A-Z_]*\) \(.*\)/  cmd \1\n    \2 (offset 24)/' "$4" ;;
+  ditto) cp -R "$1" "$2" ;;
+  macdeployqt) cat "${0%/*}/left out" || echo "WARNING: there is nothing to do" ;;
+  codesign) test ! -e "${0%/*}/refused" ;;
+esac
+)";
 
-/// A built bundle, and the tools of a Mac that only pretend: of a program or a library, what
-/// describes it is its content.
 class Package : public testing::Test {
   protected:
     Package() {
-        for (const auto& [name, does] : std::map<QString, QByteArray>{
-                 {u"otool"_s, "cat \"$4\""},
-                 {u"ditto"_s, "cp -R \"$1\" \"$2\""},
-                 {u"macdeployqt"_s, "cat \"$(dirname \"$0\")/deployed\""},
-                 {u"codesign"_s, "test ! -e \"$(dirname \"$0\")/refused\""},
-                 {u"xcrun"_s, ""},
-                 {u"hdiutil"_s, ""},
-                 {u"spctl"_s, ""}}) {
-            writeTestFile(path(name), "#!/bin/sh\n" + does + '\n');
+        for (const QString& name :
+             u"otool ditto macdeployqt codesign xcrun hdiutil spctl"_s.split(u' ')) {
+            writeTestFile(path(name), tool);
             QFile::setPermissions(path(name), QFile::ReadOwner | QFile::ExeOwner);
         }
-        writeTestFile(path(u"deployed"_s), "WARNING: there is nothing to do\n");
         writeTestFile(app + u"/Contents/Info.plist"_s,
                       "<key>LSMinimumSystemVersion</key>\n<string>14.0</string>\n");
-        build(program + needs("14.0"), load("@loader_path/libA.dylib") + needs("15.2"));
-    }
-
-    static QByteArray command(const QByteArray& name, const QByteArray& value) {
-        return "Load command 1\n      cmd " + name + "\n  cmdsize 56\n" + value + '\n';
-    }
-    static QByteArray load(const QByteArray& library) {
-        return command("LC_LOAD_DYLIB", "     name " + library + " (offset 24)");
-    }
-    static QByteArray rpath(const QByteArray& folder) {
-        return command("LC_RPATH", "     path " + folder + " (offset 12)");
-    }
-    static QByteArray needs(const QByteArray& system) {
-        return command("LC_BUILD_VERSION", "    minos " + system);
+        build(program + "LC_BUILD_VERSION minos 14.0\n",
+              "LC_ID_DYLIB name /opt/libA.dylib\nLC_LOAD_DYLIB name "
+              "@loader_path/libA.dylib\nLC_BUILD_VERSION minos 15.2\n");
     }
 
     [[nodiscard]] QString path(const QString& name) const { return folder.filePath(name); }
@@ -74,139 +55,133 @@ class Package : public testing::Test {
         writeTestFile(app + u"/Contents/MacOS/Velmora"_s, executable);
         writeTestFile(app + u"/Contents/Frameworks/libA.dylib"_s, library);
     }
-    [[nodiscard]] Outcome package(const QStringList& more) const {
-        return run(sourceRoot + u"/packaging/macos/package"_s, more, folder.path());
-    }
-    [[nodiscard]] QString complaint() const {
-        return run(sourceRoot + u"/packaging/macos/self-contained"_s, {app}, folder.path()).errors;
+    [[nodiscard]] Outcome run(const QString& script, const QStringList& arguments) const {
+        QProcess process;
+        QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
+        surroundings.insert(u"PATH"_s, folder.path() + u':' + surroundings.value(u"PATH"_s));
+        process.setProcessEnvironment(surroundings);
+        process.start(scripts + script, arguments);
+        EXPECT_TRUE(process.waitForFinished()) << qPrintable(process.errorString());
+        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError()).trimmed()};
     }
 
     const QTemporaryDir folder;
     const QString app = path(u"Other.app"_s);
-    const QByteArray program = load("/usr/lib/libSystem.B.dylib") + load("@rpath/libA.dylib") +
-                               rpath("@executable_path/../Frameworks");
-    const QStringList named = {
-        u"--identity"_s, u"Ann Lee (TEAM)"_s, u"--profile"_s, u"velmora"_s,
-        u"--app"_s,      u"Other.app"_s,      u"--output"_s,  path(u"Velmora.dmg"_s)};
+    const QByteArray program =
+        "LC_LOAD_DYLIB name /usr/lib/libSystem.B.dylib\nLC_LOAD_DYLIB name @rpath/libA.dylib\n"
+        "LC_RPATH path @executable_path/../Frameworks\n";
+    const QStringList named = u"--identity|Ann Lee (TEAM)|--profile|velmora|--app|%1|--output|%2"_s
+                                  .arg(app, path(u"Velmora.dmg"_s))
+                                  .split(u'|');
 };
 
 // Catches a step that moved: nothing may change after it is sealed, and the ticket comes last. A
 // dry run that does something or shows another order; a step that fails without an end.
 TEST_F(Package, SignsInsideOutThenNotarisesThenStaples) {
-    QStringList arguments = named;
-    arguments[5] = app;
-    const Outcome dry = package(arguments + QStringList(u"--dry-run"_s));
+    const Outcome dry = run(u"package"_s, named + QStringList(u"--dry-run"_s));
     ASSERT_EQ(dry.code, 0) << qPrintable(dry.errors);
     EXPECT_FALSE(QFile::exists(path(u"package"_s))) << "a dry run did something";
-    const Outcome done = package(arguments);
+    const Outcome done = run(u"package"_s, named);
     ASSERT_EQ(done.code, 0) << qPrintable(done.errors);
     EXPECT_EQ(done.output, dry.output);
-    const QStringList order = {u"\nditto "_s + app,
-                               u"\ndeploy "_s,
-                               u"least-system "_s,
-                               u"self-contained "_s,
-                               u"/Contents -depth"_s,
-                               u"-exec codesign --force"_s,
-                               u"--entitlements packaging/macos/Velmora.entitlements"_s,
-                               u"\ncodesign --verify --deep --strict"_s,
-                               u"\nhdiutil create"_s,
-                               u"\ncodesign --force --timestamp --sign"_s,
-                               u"notarytool submit "_s,
-                               u"stapler staple "_s,
-                               u"spctl --assess"_s};
+    const QString steps =
+        u"\nditto |\ndeploy |least-system |self-contained |/Contents -depth|-exec codesign --force|"
+        "--entitlements packaging/macos/Velmora.entitlements|\ncodesign --verify --deep --strict|"
+        "\nhdiutil create|\ncodesign --force --timestamp --sign|notarytool submit |"
+        "stapler staple |spctl --assess"_s;
     qsizetype place = 0;
-    for (const QString& step : order) {
-        const qsizetype found = dry.output.indexOf(step, place);
-        ASSERT_GE(found, place) << qPrintable(step + u" is missing or late in\n"_s + dry.output);
-        place = found + step.size();
+    for (const QString& step : steps.split(u'|')) {
+        place = dry.output.indexOf(step, place);
+        ASSERT_GE(place, 0) << qPrintable(step + u" is missing or late in\n"_s + dry.output);
+        place += step.size();
     }
     EXPECT_EQ(dry.output.count(u"--entitlements"_s), 1) << "only the application gets them";
-    QFile list(path(u"package/Velmora.app/Contents/Info.plist"_s));
-    EXPECT_TRUE(list.open(QIODevice::ReadOnly) && list.readAll().contains("<string>15.2<"));
+    EXPECT_TRUE(
+        readFile(path(u"package/Velmora.app/Contents/Info.plist"_s))->contains("<string>15.2<"));
 
     writeTestFile(path(u"refused"_s), "");
-    const Outcome unsigned_ = package(arguments);
-    EXPECT_NE(unsigned_.code, 0);
-    EXPECT_FALSE(unsigned_.output.contains(u"--verify"_s)) << "went on unsigned";
-    writeTestFile(path(u"deployed"_s), "ERROR: no file at \"/opt/homebrew/libA.dylib\"\n");
-    const Outcome incomplete = package(arguments);
+    const Outcome unsealed = run(u"package"_s, named);
+    EXPECT_NE(unsealed.code, 0);
+    EXPECT_FALSE(unsealed.output.contains(u"--verify"_s)) << "went on unsigned";
+    writeTestFile(path(u"left out"_s), "ERROR: no file at \"/opt/homebrew/libA.dylib\"\n");
+    const Outcome incomplete = run(u"package"_s, named);
     EXPECT_NE(incomplete.code, 0);
     EXPECT_TRUE(incomplete.errors.contains(u"macdeployqt could not bring in everything"_s));
     EXPECT_FALSE(incomplete.output.contains(u"codesign"_s)) << "went on without a library";
 }
 
 TEST_F(Package, WhatIsMissingIsNamedInOneSentence) {
-    EXPECT_EQ(package({}).errors, u"Name the signing certificate with --identity."_s);
-    EXPECT_EQ(package(named.first(2)).errors,
-              u"Name notarytool's keychain profile with --profile."_s);
-    EXPECT_EQ(package({u"--profile"_s}).errors, u"The argument --profile needs a value."_s);
-    ASSERT_TRUE(QDir().mkpath(path(u"Velmora.dmg"_s)));
-    EXPECT_EQ(package(named).errors, path(u"Velmora.dmg"_s) +
-                                         u" cannot be the disk image; name a file ending in .dmg "
-                                         "with --output."_s);
     EXPECT_TRUE(QFile::remove(path(u"spctl"_s)));
-    const Outcome noTools = package(named.first(4));
-    EXPECT_EQ(noTools.code, 1);
-    EXPECT_TRUE(noTools.errors.startsWith(u"The tool spctl "_s)) << qPrintable(noTools.errors);
+    const QString taken = path(u"Other.dmg"_s);
+    ASSERT_TRUE(QDir().mkpath(taken));
+    for (const auto& [given, sentence] : std::vector<std::pair<QStringList, QString>>{
+             {{}, u"Name the signing certificate with --identity."_s},
+             {named.first(2), u"Name notarytool's keychain profile with --profile."_s},
+             {{u"--profile"_s}, u"The argument --profile needs a value."_s},
+             {named.first(7) + QStringList(taken),
+              taken + u" cannot be the disk image; name a file ending in .dmg with --output."_s},
+             {named,
+              u"The tool spctl is missing; packaging takes a Mac with Xcode's command line "
+              "tools and Qt."_s}}) {
+        const Outcome refused = run(u"package"_s, given);
+        EXPECT_EQ(refused.code, 1);
+        EXPECT_EQ(refused.errors, sentence);
+    }
 }
 
 // Catches a check that passes a bundle that other Macs cannot start, or one it cannot read.
 TEST_F(Package, ABundleThatDoesNotStartEverywhereIsRefused) {
     writeTestFile(path(u"libB.dylib"_s), "");
-    const std::vector<std::tuple<QByteArray, QByteArray, QString>> cases = {
-        {program + needs("14.0"), load("@rpath/libA.dylib") + needs("9.9"), {}},
-        {program, load("/opt/homebrew/libB.dylib"),
-         u"Frameworks/libA.dylib loads /opt/homebrew/libB.dylib, which is not in the bundle."_s},
-        {load("@rpath/libA.dylib"), rpath("@loader_path"),
+    std::vector<std::tuple<QByteArray, QByteArray, QString>> cases = {
+        {program + "LC_BUILD_VERSION minos 14.0\n",
+         "LC_LOAD_DYLIB name @rpath/libA.dylib\nLC_BUILD_VERSION minos 9.9\n", u""_s},
+        {"LC_LOAD_DYLIB name @rpath/libA.dylib\n", "LC_RPATH path @loader_path\n",
          u"MacOS/Velmora loads @rpath/libA.dylib, which is not in the bundle."_s},
-        {program, load("@loader_path/../../../libB.dylib"),
-         u"Frameworks/libA.dylib loads @loader_path/../../../libB.dylib, which is not in the bundle."_s},
-        {program, load("@executable_path/libB.dylib"),
-         u"Frameworks/libA.dylib loads @executable_path/libB.dylib, which is not in the bundle."_s},
-        {program + rpath("/opt/homebrew/lib"),
-         {},
+        {program + "LC_RPATH path /opt/homebrew/lib\n", "",
          u"MacOS/Velmora looks for libraries in /opt/homebrew/lib."_s},
-        {program, needs("26.0"),
+        {program, "LC_BUILD_VERSION minos 26.0\n",
          u"Frameworks/libA.dylib needs macOS 26.0, and the bundle says 14.0."_s},
-        {{}, {}, u"What "_s + app + u"/Contents/MacOS/Velmora loads could not be listed."_s}};
+        {"", "", u"What "_s + app + u"/Contents/MacOS/Velmora loads could not be listed."_s}};
+    for (const char* each : {"/opt/homebrew/libB.dylib", "@loader_path/../../../libB.dylib",
+                             "@executable_path/libB.dylib"})
+        cases.emplace_back(program, QByteArray("LC_LOAD_DYLIB name ") + each,
+                           u"Frameworks/libA.dylib loads %1, which is not in the bundle."_s.arg(
+                               QLatin1StringView(each)));
     for (const auto& [executable, library, sentence] : cases) {
         build(executable, library);
-        EXPECT_EQ(complaint(), sentence);
+        EXPECT_EQ(run(u"self-contained"_s, {app}).errors, sentence);
     }
 }
 
 // Catches a bundle that the system would kill at its first question to Contacts or to Messages.
 TEST(Bundle, AsksForWhatItUsesAndSaysWhy) {
-    for (const auto& [name, held] : std::vector<std::pair<QString, QByteArrayList>>{
-             {u"Info.plist.in"_s,
-              {"<key>NSContactsUsageDescription</key>\n    <string>Velmora ",
-               "<key>NSAppleEventsUsageDescription</key>\n    <string>Velmora ",
-               "<key>LSMultipleInstancesProhibited</key>\n    <true/>",
-               "<string>${MACOSX_BUNDLE_SHORT_VERSION_STRING}</string>"}},
-             {u"Velmora.entitlements"_s,
-              {"<key>com.apple.security.automation.apple-events</key>\n    <true/>",
-               "<key>com.apple.security.personal-information.addressbook</key>\n    <true/>"}}}) {
-        QFile file(sourceRoot + u"/packaging/macos/"_s + name);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        const QByteArray list = file.readAll();
+    QByteArray all;
+    for (const QString& name : {u"Info.plist.in"_s, u"Velmora.entitlements"_s}) {
+        const QByteArray list = readFile(scripts + name).value_or("");
         QXmlStreamReader xml(list);
         while (!xml.atEnd())
             xml.readNext();
         EXPECT_FALSE(xml.hasError()) << qPrintable(xml.errorString());
-        for (const QByteArray& each : held)
-            EXPECT_TRUE(list.contains(each)) << each.constData();
+        all += list;
     }
+    for (const char* held :
+         {"NSContactsUsageDescription</key>\n    <string>Velmora ",
+          "NSAppleEventsUsageDescription</key>\n    <string>Velmora ",
+          "LSMultipleInstancesProhibited</key>\n    <true/>",
+          "<string>${MACOSX_BUNDLE_SHORT_VERSION_STRING}</string>",
+          ">com.apple.security.automation.apple-events</key>\n    <true/>",
+          ">com.apple.security.personal-information.addressbook</key>\n    <true/>"})
+        EXPECT_TRUE(all.contains(held)) << held;
 }
 
 TEST(Icon, EverySizeOfTheSetIsDrawn) {
     const QTemporaryDir folder;
-    const Outcome drawn = run(QStringLiteral(VELMORA_ICON_SET), {folder.path()});
-    ASSERT_EQ(drawn.code, 0) << qPrintable(drawn.errors);
+    ASSERT_EQ(QProcess::execute(QStringLiteral(VELMORA_ICON_SET), {folder.path()}), 0);
     for (const int points : {16, 32, 128, 256, 512}) {
-        for (const int scale : {1, 2}) {
-            const QImage image(folder.filePath(
-                u"icon_%1x%1%2.png"_s.arg(points).arg(scale == 2 ? u"@2x"_s : QString())));
-            EXPECT_EQ(image.width(), points * scale);
+        for (const QString& scale : {u""_s, u"@2x"_s}) {
+            const QImage image(folder.filePath(u"icon_%1x%1%2.png"_s.arg(points).arg(scale)));
+            EXPECT_EQ(image.width(), scale.isEmpty() ? points : points * 2);
             EXPECT_GT(image.pixelColor(image.rect().center()).alpha(), 200);
             EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0) << "the corners are not rounded";
         }

@@ -3,7 +3,6 @@
 
 #import <Foundation/Foundation.h>
 
-typedef CGFloat NSFontWeight;
 typedef struct CGColorSpace *CGColorSpaceRef;
 typedef struct CGContext *CGContextRef;
 enum : uint32_t { kCGImageAlphaPremultipliedFirst = 2, kCGBitmapByteOrder32Host = 2 << 12 };
@@ -12,16 +11,16 @@ void CGColorSpaceRelease(CGColorSpaceRef space);
 CGContextRef CGBitmapContextCreate(void *data, size_t width, size_t height, size_t bitsPerComponent,
                                    size_t bytesPerRow, CGColorSpaceRef space, uint32_t bitmapInfo);
 void CGContextRelease(CGContextRef context);
-
 @interface NSWorkspaceOpenConfiguration : NSObject
 + (instancetype)configuration;
 @end
 enum NSApplicationActivationOptions : NSUInteger { NSApplicationActivateAllWindows = 1 };
 @interface NSRunningApplication : NSObject
-+ (NSArray<NSRunningApplication *> *)runningApplicationsWithBundleIdentifier:(NSString *)identifier;
 @property(readonly) int processIdentifier;
++ (NSArray<NSRunningApplication *> *)runningApplicationsWithBundleIdentifier:(NSString *)identifier;
 - (BOOL)activateWithOptions:(NSApplicationActivationOptions)options;
 @end
+extern NSString *const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification;
 @interface NSWorkspace : NSObject
 @property(class, readonly) NSWorkspace *sharedWorkspace;
 @property(readonly) BOOL accessibilityDisplayShouldReduceMotion;
@@ -32,19 +31,18 @@ enum NSApplicationActivationOptions : NSUInteger { NSApplicationActivateAllWindo
                configuration:(NSWorkspaceOpenConfiguration *)configuration
            completionHandler:(void (^)(NSRunningApplication *application, NSError *error))handler;
 @end
-
+typedef CGFloat NSFontWeight;
 extern const NSFontWeight NSFontWeightLight, NSFontWeightRegular, NSFontWeightBold;
 @interface NSImageSymbolConfiguration : NSObject
 + (instancetype)configurationWithPointSize:(CGFloat)size weight:(NSFontWeight)weight;
 @end
-
 enum NSCompositingOperation : NSUInteger { NSCompositingOperationSourceOver = 2 };
 @interface NSImage : NSObject
-+ (instancetype)imageWithSystemSymbolName:(NSString *)name
-                 accessibilityDescription:(NSString *)description;
-- (NSImage *)imageWithSymbolConfiguration:(NSImageSymbolConfiguration *)configuration;
 @property(readonly) NSSize size;
 @property(readonly) NSRect alignmentRect;
++ (instancetype)imageWithSystemSymbolName:(NSString *)name
+                 accessibilityDescription:(NSString *)text;
+- (NSImage *)imageWithSymbolConfiguration:(NSImageSymbolConfiguration *)configuration;
 - (void)drawInRect:(NSRect)target
           fromRect:(NSRect)source
          operation:(NSCompositingOperation)operation
@@ -63,15 +61,14 @@ enum NSCompositingOperation : NSUInteger { NSCompositingOperationSourceOver = 2 
 @property(class, readonly) __kindof NSApplication *sharedApplication;
 @property(readonly) NSImage *applicationIconImage;
 @end
-extern NSString *const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification;
 extern NSString *const NSSystemColorsDidChangeNotification;
 @interface NSColorSpace : NSObject
 @property(class, readonly) NSColorSpace *sRGBColorSpace;
 @end
 @interface NSColor : NSObject
 @property(class, readonly) NSColor *controlAccentColor;
-- (NSColor *)colorUsingColorSpace:(NSColorSpace *)space;
 @property(readonly) CGFloat redComponent, greenComponent, blueComponent;
+- (NSColor *)colorUsingColorSpace:(NSColorSpace *)space;
 @end
 @interface NSWindow : NSObject
 @property(copy) NSString *subtitle;

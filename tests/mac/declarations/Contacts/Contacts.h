@@ -1,22 +1,23 @@
-// What src/platform/mac uses of the Contacts framework, written from its documentation.
+// What src/platform/mac uses of the Contacts framework, written from its documentation; the texts
+// are ours.
 #pragma once
 
 #import <Foundation/Foundation.h>
 
-enum CNEntityType : NSInteger { CNEntityTypeContacts };
-typedef NSInteger CNAuthorizationStatus;
+static NSString *const CNContactGivenNameKey = @"givenName";
+static NSString *const CNContactFamilyNameKey = @"familyName";
+static NSString *const CNContactNicknameKey = @"nickname";
+static NSString *const CNContactOrganizationNameKey = @"organizationName";
+static NSString *const CNContactPhoneNumbersKey = @"phoneNumbers";
+static NSString *const CNContactEmailAddressesKey = @"emailAddresses";
+static NSString *const CNLabelPhoneNumberMobile = @"native mobile";
+static NSString *const CNLabelPhoneNumberiPhone = @"native iPhone";
+static NSString *const CNLabelPhoneNumberMain = @"native main";
 
 @protocol CNKeyDescriptor
 @end
 @interface NSString (Contacts) <CNKeyDescriptor>
 @end
-extern NSString *const CNContactGivenNameKey, *const CNContactFamilyNameKey;
-extern NSString *const CNContactNicknameKey, *const CNContactOrganizationNameKey;
-extern NSString *const CNContactPhoneNumbersKey, *const CNContactEmailAddressesKey;
-extern NSString *const CNLabelPhoneNumberMobile, *const CNLabelPhoneNumberiPhone;
-extern NSString *const CNLabelPhoneNumberMain;
-
-@class NSPredicate;
 @interface CNPhoneNumber : NSObject <NSCopying>
 @property(readonly) NSString *stringValue;
 @end
@@ -38,8 +39,9 @@ extern NSString *const CNLabelPhoneNumberMain;
 - (instancetype)initWithKeysToFetch:(NSArray<id<CNKeyDescriptor>> *)keys;
 @property BOOL unifyResults;
 @end
+enum CNEntityType : NSInteger { CNEntityTypeContacts };
 @interface CNContactStore : NSObject
-+ (CNAuthorizationStatus)authorizationStatusForEntityType:(CNEntityType)type;
++ (NSInteger)authorizationStatusForEntityType:(CNEntityType)type;
 - (void)requestAccessForEntityType:(CNEntityType)type
                  completionHandler:(void (^)(BOOL granted, NSError *error))handler;
 - (BOOL)enumerateContactsWithFetchRequest:(CNContactFetchRequest *)request
