@@ -25,10 +25,11 @@ namespace {
 
 /// What befalls this process's calls on files.
 struct FailingCalls {
-    std::string folder;  ///< below which calls are counted; none are while it is empty
-    int at = 0;          ///< the number of the call that fails, the first is 1; 0: none
-    bool stays = false;  ///< all that follow fail as well
-    int count = 0;       ///< the calls until now
+    std::string folder;        ///< below which calls are counted; none are while it is empty
+    int at = 0;                ///< the number of the call that fails, the first is 1; 0: none
+    bool stays = false;        ///< all that follow fail as well
+    int count = 0;             ///< the calls until now
+    bool isUnwritten = false;  ///< whether something was written that is not on the disk yet
 } failingCalls;
 
 std::array<bool, 1024> watched{};  // by descriptor
@@ -104,6 +105,7 @@ ssize_t write(int handle, const void* bytes, size_t size) {
     const bool failed = isOurs(handle) && fails(ENOSPC);
     if (failed && size < 2)
         return -1;
+    failingCalls.isUnwritten |= isOurs(handle);
     // As on a full disk, the first part may be there.
     return real<ssize_t(int, const void*, size_t)>("write")(handle, bytes, failed ? 1 : size);
 }
@@ -114,7 +116,9 @@ int close(int handle) {
     return failed ? -1 : result;
 }
 int fsync(int handle) {
-    return passOn("fsync", handle);
+    const int result = passOn("fsync", handle);
+    failingCalls.isUnwritten &= result != 0 || !isOurs(handle);
+    return result;
 }
 int ftruncate(int handle, off_t size) noexcept {
     return passOn("ftruncate", handle, size);
@@ -159,15 +163,18 @@ namespace {
 constexpr int people = 5;
 constexpr int longest = 60'000;  // milliseconds
 
-/// An evening whose call number `at` fails. It prints how many calls there were.
+/// An evening whose call number `at` fails. It prints how many calls there were, and fails when
+/// a text leaves before all that was written is on the disk although nothing failed.
 int runWithFault(const QStringList& arguments) {
     const QString& home = arguments[2];
     failingCalls = {.folder = (home + u"/.local"_s).toStdString(),
                     .at = arguments.value(4).toInt(),
                     .stays = arguments.value(5) == u"stays"};
-    const int result = runEvening(home, 0);
+    bool isEarly = false;
+    const int result =
+        runEvening(home, 0, [&] { isEarly |= failingCalls.at == 0 && failingCalls.isUnwritten; });
     std::printf("%d", failingCalls.count);
-    return result;
+    return isEarly ? 1 : result;
 }
 
 /// What is wrong after a fault and the next evening; empty when nothing is. `calls` becomes the
@@ -181,7 +188,7 @@ QString faultAfter(int at, bool stays, int& calls) {
         return u"the program crashed or hung"_s;
     calls = counted->toInt();
     if (!playEvening(home.path(), 0, longest))
-        return u"the next evening came to nothing"_s;
+        return u"the next evening came to nothing, or a text left before its line was on the disk"_s;
     return faultOfEvenings(home.path(), people);
 }
 

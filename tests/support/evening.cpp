@@ -25,7 +25,7 @@ QString phoneOf(int n) {
 
 }  // namespace
 
-int runEvening(const QString& home, double day) {
+int runEvening(const QString& home, double day, const std::function<void()>& atEachText) {
     VirtualSurroundings world;
     world.clock.shiftWall(day * 86400);
     Platform platform = makeRehearsalPlatform(world.clock, home);
@@ -34,7 +34,8 @@ int runEvening(const QString& home, double day) {
     QFile handed(home + u"/handed"_s);
     if (!handed.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
         return 1;
-    scripts.before = [&handed](const QString& source) {
+    scripts.before = [&](const QString& source) {
+        atEachText();
         const auto text = parseMessageScript(source).value();
         handed.write((text.phone + u' ' + serviceName(text.service) + u'\n').toUtf8());
     };

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <optional>
 
 namespace velmora {
@@ -14,8 +15,9 @@ void prepareEvenings(const QString& home, int people);
 
 /// What a user does each evening: opens Velmora, checks who is left, sends under the same name, and
 /// resumes every pause. Time flies, so that what happens to the program finds it at work and not
-/// asleep. 0 when the run has ended.
-[[nodiscard]] int runEvening(const QString& home, double day);
+/// asleep. Calls `atEachText` before Messages is handed a text. 0 when the run has ended.
+[[nodiscard]] int runEvening(
+    const QString& home, double day, const std::function<void()>& atEachText = [] {});
 
 /// An evening in a process of its own: this program with the arguments "evening", `home`, `day` and
 /// `more`, killed after so many milliseconds (-1: never). What it wrote on its standard output;
