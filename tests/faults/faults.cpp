@@ -199,7 +199,8 @@ namespace {
 constexpr int people = 5;
 constexpr int longest = 60'000;  // milliseconds
 
-/// An evening whose call number `at` fails. It prints how many calls there were.
+/// An evening whose call number `at` fails. It prints how many calls there were, and fails when
+/// a text leaves before all that was written is on the disk although nothing failed.
 int runWithFault(const QStringList& arguments) {
     const QString& home = arguments[2];
     failingCalls = {.folder = (home + u"/.local"_s).toStdString(),
@@ -222,7 +223,7 @@ QString faultAfter(int at, bool stays, int& calls) {
         return u"the program crashed or hung"_s;
     calls = counted->toInt();
     if (!playEvening(home.path(), 0, longest))
-        return u"the next evening came to nothing"_s;
+        return u"the next evening came to nothing, or a text left before its line was on the disk"_s;
     return faultOfEvenings(home.path(), people);
 }
 

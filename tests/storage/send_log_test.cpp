@@ -100,10 +100,14 @@ TEST_F(StorageTest, WhatCannotBeWrittenCountsAndIsWrittenLater) {
     // The folder takes new files, so that only the rule keeps the file from being replaced.
     permit(folder.logs(), 0x7777);
     permit(logFile(), 0x4444);
-    asOrdinaryUser([this] { log.append(entry(u"+3"_s)); });
+    asOrdinaryUser([this] {
+        log.append(entry(u"+3"_s));
+        log.replace(entry(u"+1"_s, u"failed"_s), entry(u"+1"_s));
+    });
+    EXPECT_TRUE(file().contains("failed")) << "what may not be written was replaced";
     permit(logFile(), 0x0000);
     asOrdinaryUser([this] {
-        EXPECT_EQ(log.load(party).size(), 1);
+        EXPECT_EQ(log.load(party).size(), 2);
         EXPECT_FALSE(log.isUnderstood(party));
         log.rewrite(party, {});
     });
