@@ -132,6 +132,7 @@ TEST_F(Run, IsRefusedForTheFirstReasonThatHolds) {
         EXPECT_FALSE(model->confirmingRun);
         mend();
     }
+    EXPECT_EQ(model->validationError(), std::nullopt);
     friends({person(u"ann"_s, u"Ann"_s, u"Lee"_s)});
     model->loadList();
     model->setSelection({u"ann"_s});
