@@ -26,27 +26,23 @@ Item {
 
     HostedSheet {
         shown: host.window.sheet === MainWindowModel.Sheet.terms
-        sheet: TermsSheet {
-            firstRun: host.presentation.firstRun
-        }
+        file: "TermsSheet.qml"
+        handed: ({ firstRun: host.presentation.firstRun })
     }
     HostedSheet {
         shown: host.window.sheet === MainWindowModel.Sheet.confirm
-        sheet: ConfirmSendSheet {
-            model: host.presentation.confirm
-        }
+        file: "ConfirmSendSheet.qml"
+        handed: ({ model: host.presentation.confirm })
     }
     HostedSheet {
         shown: host.window.sheet === MainWindowModel.Sheet.fullDiskAccessHelp
-        sheet: FullDiskAccessHelpSheet {
-            firstRun: host.presentation.firstRun
-        }
+        file: "FullDiskAccessHelpSheet.qml"
+        handed: ({ firstRun: host.presentation.firstRun })
     }
     HostedSheet {
         shown: host.window.sheet === MainWindowModel.Sheet.senderSetup
-        sheet: SenderSetupSheet {
-            firstRun: host.presentation.firstRun
-        }
+        file: "SenderSetupSheet.qml"
+        handed: ({ firstRun: host.presentation.firstRun })
     }
     HostedSheet {
         id: alert
@@ -55,10 +51,7 @@ Item {
         shown: host.window.alertShown
         // A sheet that opens under the alert takes the keyboard with it.
         onActiveFocusChanged: host.keepKeyboard()
-        sheet: AlertBox {
-            content: host.window.alert
-            onActed: host.window.stopAndQuit()
-            onDismissed: host.window.dismissAlert()
-        }
+        file: "AlertSheet.qml"
+        handed: ({ model: host.window })
     }
 }
