@@ -20,6 +20,12 @@ QString displayName(const ContactRecord& person, const QString& firstName) {
     return firstName.isEmpty() ? u"(no name)"_s : firstName;
 }
 
+// A text apart from the address book's record: each page of memory that the record lies in would
+// stay with the text that they share.
+QString copyOf(const QString& text) {
+    return QString(text.constData(), text.size());
+}
+
 void block(Recipient& recipient, const QString& issue) {
     recipient.issue = issue;
     recipient.usable = false;
@@ -35,8 +41,8 @@ Recipient RecipientCheck::next(const ContactRecord& person) {
 
 Recipient RecipientCheck::recipientOf(const ContactRecord& person) {
     Recipient recipient;
-    recipient.id = person.identifier;
-    recipient.firstName = person.givenName.isEmpty() ? person.nickname : person.givenName;
+    recipient.id = copyOf(person.identifier);
+    recipient.firstName = copyOf(person.givenName.isEmpty() ? person.nickname : person.givenName);
     recipient.name = displayName(person, recipient.firstName);
     recipient.company = texts_.shared(trimmedWhiteSpace(person.organizationName).toString());
     if (const auto number = sources_.contacts.bestPhone(person)) {

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Window
 import Velmora
 
 /// A field for a decimal number. Every number that is typed counts at once; what is none goes when

@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Velmora
 
@@ -10,7 +11,7 @@ Item {
 
     readonly property int gap: 6
     readonly property real nameWidth: nameText.truncated ? nameText.width : nameText.contentWidth
-    readonly property real room: width - (sent.visible ? sent.width + gap : 0)
+    readonly property real room: width - (sent.active ? sent.width + gap : 0)
 
     implicitHeight: nameText.height
 
@@ -30,16 +31,20 @@ Item {
         text: line.entry.company
         color: Theme.colorOf(Look.Tone.secondary, line.entry.faint)
     }
-    LabelWithSymbol {
+    // Most rows have none.
+    Loader {
         id: sent
+        active: line.entry.sentText.length > 0
         x: (companyText.visible ? companyText.x + companyText.width : line.nameWidth) + line.gap
         y: (nameText.height - height) / 2
-        width: implicitWidth
-        visible: text.length > 0
-        text: line.entry.sentText
-        symbol: "checkmark.seal.fill"
-        textColor: Theme.colorOf(Look.Tone.green, line.entry.faint)
-        fontSize: Theme.caption
-        spacing: 4
+
+        sourceComponent: LabelWithSymbol {
+            width: implicitWidth
+            text: line.entry.sentText
+            symbol: "checkmark.seal.fill"
+            textColor: Theme.colorOf(Look.Tone.green, line.entry.faint)
+            fontSize: Theme.caption
+            spacing: 4
+        }
     }
 }

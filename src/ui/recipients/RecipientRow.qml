@@ -52,18 +52,22 @@ FocusScope {
     Accessible.focused: activeFocus
     Accessible.onPressAction: recipients.toggle(index)
 
-    BodyText {
-        id: headingText
+    // One row alone has one.
+    Loader {
+        id: heading
         x: Theme.padding
         width: row.width - 2 * x
-        topPadding: 14
-        bottomPadding: 6
-        visible: text.length > 0
-        text: row.entry.heading
-        color: Theme.secondary
-        font.pixelSize: Theme.callout
-        font.weight: Font.DemiBold
-        Accessible.role: Accessible.Heading
+        active: row.entry.heading.length > 0
+
+        sourceComponent: BodyText {
+            topPadding: 14
+            bottomPadding: 6
+            text: row.entry.heading
+            color: Theme.secondary
+            font.pixelSize: Theme.callout
+            font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
+        }
     }
     MouseArea {
         anchors.fill: parent
@@ -84,7 +88,7 @@ FocusScope {
                                      && !passage.activeFocus
     }
     HorizontalDivider {
-        visible: row.index > 0 && !headingText.visible
+        visible: row.index > 0 && !heading.active
         x: words.x + content.x
         width: row.width - x - content.anchors.rightMargin
     }
@@ -92,7 +96,7 @@ FocusScope {
     Item {
         id: content
 
-        readonly property real headingHeight: headingText.visible ? headingText.implicitHeight : 0
+        readonly property real headingHeight: heading.active ? heading.height : 0
 
         anchors.fill: parent
         anchors.leftMargin: Theme.padding

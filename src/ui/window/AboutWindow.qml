@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Window
 import Velmora
 
 /// The application's name, icon and version.

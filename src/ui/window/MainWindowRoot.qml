@@ -67,41 +67,40 @@ T.ApplicationWindow {
         titleBottom: root.barHeight + content.headerHeight
     }
 
-    // The other windows are made when they are first wanted.
-    function present(maker: Instantiator) {
-        maker.active = true;
-        const window = maker.object as Window;
-        window.show();
-        window.raise();
-        window.requestActivate();
+    // Another window, which is read and made when it is first wanted.
+    component LateWindow: QtObject {
+        required property string file
+        property var handed: ({})
+        property Window window: null
+
+        function present() {
+            if (window === null)
+                window = Qt.createComponent(file).createObject(root, handed) as Window;
+            window.transientParent = root;
+            window.show();
+            window.raise();
+            window.requestActivate();
+        }
     }
-    Instantiator {
+    LateWindow {
         id: settings
-        active: false
-
-        SettingsWindow {
-            transientParent: root
-            settings: root.presentation.settings
-        }
+        file: "SettingsWindow.qml"
+        handed: ({ settings: root.presentation.settings })
     }
-    Instantiator {
+    LateWindow {
         id: about
-        active: false
-
-        AboutWindow {
-            transientParent: root
-        }
+        file: "AboutWindow.qml"
     }
     Connections {
         target: root.presentation.window
         function onSettingsRequested() {
-            root.present(settings);
+            settings.present();
         }
     }
     Connections {
         target: root.presentation.menus
         function onAboutRequested() {
-            root.present(about);
+            about.present();
         }
     }
 }

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Window
 import Velmora
 
 /// The alert in a window of its own, for a program that shows nothing else.

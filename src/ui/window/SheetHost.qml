@@ -20,37 +20,30 @@ Item {
 
     HostedSheet {
         shown: host.window.sheet === MainWindowModel.Sheet.terms
-        sheet: TermsSheet {
-            firstRun: host.presentation.firstRun
-        }
+        file: "TermsSheet.qml"
+        handed: ({ firstRun: host.presentation.firstRun })
     }
     HostedSheet {
         shown: host.window.sheet === MainWindowModel.Sheet.confirm
-        sheet: ConfirmSendSheet {
-            model: host.presentation.confirm
-        }
+        file: "ConfirmSendSheet.qml"
+        handed: ({ model: host.presentation.confirm })
     }
     HostedSheet {
         shown: host.window.sheet === MainWindowModel.Sheet.fullDiskAccessHelp
-        sheet: FullDiskAccessHelpSheet {
-            firstRun: host.presentation.firstRun
-        }
+        file: "FullDiskAccessHelpSheet.qml"
+        handed: ({ firstRun: host.presentation.firstRun })
     }
     HostedSheet {
         shown: host.window.sheet === MainWindowModel.Sheet.senderSetup
-        sheet: SenderSetupSheet {
-            firstRun: host.presentation.firstRun
-        }
+        file: "SenderSetupSheet.qml"
+        handed: ({ firstRun: host.presentation.firstRun })
     }
     HostedSheet {
         id: alert
         z: 1
         covered: false
         shown: host.window.alertShown
-        sheet: AlertBox {
-            content: host.window.alert
-            onActed: host.window.stopAndQuit()
-            onDismissed: host.window.dismissAlert()
-        }
+        file: "AlertSheet.qml"
+        handed: ({ model: host.window })
     }
 }

@@ -12,7 +12,9 @@ T.Popup {
     /// Whether the alert lies over it.
     required property bool covered
     required property int titleBottom
-    required property Component sheet
+    /// The sheet's view, which is not even read before it is shown, and what it is made with.
+    required property string file
+    required property var handed
 
     property real hidden: 0
 
@@ -57,7 +59,8 @@ T.Popup {
         opacity: 1 - popup.hidden
     }
     contentItem: SheetStage {
-        sheet: popup.sheet
+        file: popup.file
+        handed: popup.handed
         held: popup.visible
         covered: popup.covered
         leaving: !popup.shown

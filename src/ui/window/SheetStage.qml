@@ -6,7 +6,8 @@ import Velmora
 FocusScope {
     id: stage
 
-    required property Component sheet
+    required property string file
+    required property var handed
     /// Whether there is a sheet to hold.
     required property bool held
     /// Whether something lies over the sheet.
@@ -15,7 +16,16 @@ FocusScope {
     required property bool leaving
     required property real lift
 
+    function hold() {
+        if (held)
+            holder.setSource(file, handed);
+        else
+            holder.source = "";
+    }
+
     focus: true
+    onHeldChanged: hold()
+    Component.onCompleted: hold()
     implicitWidth: holder.implicitWidth
     implicitHeight: holder.implicitHeight
     transform: Translate {
@@ -25,13 +35,9 @@ FocusScope {
     UnspokenArea {
         Accessible.ignored: !stage.covered && !stage.leaving
 
-        Column {
+        Loader {
             id: holder
-
-            MadeWhenWanted {
-                wanted: stage.held
-                delegate: stage.sheet
-            }
+            focus: true
         }
     }
     MouseArea {
