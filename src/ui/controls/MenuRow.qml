@@ -28,9 +28,10 @@ Item {
 
     implicitWidth: separator ? 40 : line.implicitWidth + 2 * line.x
     implicitHeight: separator ? 11 : 24
-    Accessible.role: separator ? Accessible.Separator : Accessible.MenuItem
+    Accessible.ignored: separator
+    Accessible.role: Accessible.MenuItem
     Accessible.name: title
-    Accessible.description: separator || selectable ? "" : Theme.unavailable
+    Accessible.description: selectable ? "" : Theme.unavailable
     Accessible.checkable: marksColumn
     Accessible.checked: marked
     Accessible.focused: highlighted

@@ -117,23 +117,14 @@ T.Popup {
         }
     }
 
-    background: Item {
-        Rectangle {
-            anchors.fill: parent
-            anchors.topMargin: 3
-            anchors.margins: -2
-            anchors.bottomMargin: -5
-            radius: Theme.panelRadius
-            color: Theme.shadow
-            opacity: 0.35
-        }
-        Rectangle {
-            anchors.fill: parent
-            radius: Theme.boxRadius
-            color: Theme.menuBackground
-            border.color: Theme.controlBorder
-        }
+    // After the movement's step, which a taller frame would end.
+    Timer {
+        id: growing
+        interval: 0
+        onTriggered: menu.grow()
     }
+
+    background: MenuSurface {}
 
     Flickable {
         id: flick
@@ -142,7 +133,7 @@ T.Popup {
         boundsBehavior: Flickable.StopAtBounds
         interactive: contentHeight > height
         clip: interactive
-        onContentYChanged: if (moving) Qt.callLater(menu.grow)
+        onContentYChanged: if (moving) growing.restart()
         Accessible.role: Accessible.PopupMenu
         T.ScrollBar.vertical: SlimScrollBar {}
         Keys.onUpPressed: menu.step(-1)

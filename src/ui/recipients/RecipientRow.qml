@@ -50,7 +50,10 @@ FocusScope {
     Accessible.name: entry.spoken
     Accessible.focusable: true
     Accessible.focused: activeFocus
-    Accessible.onPressAction: recipients.toggle(index)
+    Accessible.onPressAction: {
+        take();
+        recipients.toggle(index);
+    }
 
     // One row alone has one.
     Loader {

@@ -79,5 +79,49 @@ TEST_F(WindowTest, NotesAndKeysStayWithTheirPerson) {
     EXPECT_EQ(model->selection(), (QSet<QString>{u"bob"_s, u"joanne"_s}));
 }
 
+// Catches a note that cannot be begun or left by the keys alone, an offer that takes what is typed
+// without being one, and a way out that ends elsewhere.
+TEST_F(WindowTest, ANoteIsBegunWrittenAndLeftByTheKeyboard) {
+    withFriends().setCurrentTemplate(u"Hi {first_name}{custom_note}"_s);
+    WindowDriver& user = show();
+    ASSERT_TRUE(user.until([&] { return user.shows(u"Ann Lee"_s); }));
+    while (!user.focused().startsWith(u"Ann Lee"))
+        user.key(Qt::Key_Tab);
+    user.key(Qt::Key_Down);
+    for (const int back : {Qt::Key_Left, Qt::Key_Escape}) {
+        user.key(Qt::Key_Right);
+        EXPECT_EQ(user.focused(), u"Add note");
+        user.key(back);
+        EXPECT_TRUE(user.focused().startsWith(u"Bob Stone"));
+    }
+    for (const auto& [to, press] :
+         {std::pair(Qt::Key_Tab, Qt::Key_Return), {Qt::Key_Right, Qt::Key_Space}}) {
+        model->editingNoteID = std::nullopt;
+        user.settle();
+        user.key(to);
+        user.key(press);
+        EXPECT_EQ(user.focused(), u"Personal note");
+        user.type(u"x"_s);
+        EXPECT_EQ(model->config().notes.value(u"bob"_s), u"x");
+        user.key(Qt::Key_Backspace);
+        user.key(Qt::Key_Escape);
+    }
+    EXPECT_TRUE(user.focused().startsWith(u"Bob Stone"));
+    user.key(Qt::Key_Space);
+    EXPECT_EQ(model->selection(), QSet<QString>{u"bob"_s});
+    user.key(Qt::Key_Tab);
+    EXPECT_EQ(user.focused(), u"Personal note");
+    user.key(Qt::Key_Tab);
+    EXPECT_EQ(user.focused(), u"Message");
+    user.key(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(user.focused(), u"Personal note");
+    user.key(Qt::Key_Backtab, Qt::ShiftModifier);
+    user.key(Qt::Key_Down);
+    user.key(Qt::Key_Right);
+    user.key(Qt::Key_Up);
+    user.key(Qt::Key_Space);
+    EXPECT_TRUE(model->selection().isEmpty()) << "the offer kept the keyboard";
+}
+
 }  // namespace
 }  // namespace velmora

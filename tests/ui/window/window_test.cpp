@@ -133,8 +133,8 @@ TEST_F(WindowTest, MenusAndShortcutsDoTheirWork) {
     EXPECT_TRUE(user.until([&] { return !run.isActive(); }) && user.window().close());
 }
 
-// Catches the first words of a list that can be undone, and an undo that brings another list's
-// words; an editor that grows out of its frame or loses the caret; a menu of numbers that chooses
+// Catches an insert that cannot be undone, the first words of a list that can be, and an undo that
+// brings another list's words; an editor that grows out of its frame or loses the caret; a menu of numbers that chooses
 // another, and one of nothing that takes the keyboard.
 TEST_F(WindowTest, TheComposerKeepsToItsListAndItsFrame) {
     thread(u"+12125550102"_s, myOtherLine);
@@ -145,6 +145,14 @@ TEST_F(WindowTest, TheComposerKeepsToItsListAndItsFrame) {
     WindowDriver& user = show();
     user.click(u"Message"_s, QAccessible::EditableText);
     user.key(Qt::Key_Z, command);
+    EXPECT_EQ(model->currentTemplate(), u"Hello"_s);
+    user.key(Qt::Key_A, command);
+    user.key(Qt::Key_Backspace);
+    user.click(u"Insert"_s);
+    user.click(u"First name"_s);
+    EXPECT_EQ(model->currentTemplate(), u"{first_name}"_s);
+    for (int undone = 0; undone < 2; ++undone)
+        user.key(Qt::Key_Z, command);
     EXPECT_EQ(model->currentTemplate(), u"Hello"_s);
     user.click(u"All Contacts, 3"_s);
     user.click(u"Message"_s, QAccessible::EditableText);
