@@ -134,8 +134,8 @@ TEST_F(WindowTest, MenusAndShortcutsDoTheirWork) {
 }
 
 // Catches an insert that cannot be undone, the first words of a list that can be, and an undo that
-// brings another list's words; an editor that grows out of its frame or loses the caret; a menu of numbers that chooses
-// another, and one of nothing that takes the keyboard.
+// brings another list's words; an editor that grows out of its frame or loses the caret; a menu of
+// numbers that chooses another, and one of nothing that takes the keyboard.
 TEST_F(WindowTest, TheComposerKeepsToItsListAndItsFrame) {
     thread(u"+12125550102"_s, myOtherLine);
     withFriends().setSenderNumber(myLine);
