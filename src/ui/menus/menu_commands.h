@@ -32,7 +32,6 @@ class MenuCommands final : public QObject {
     Q_PROPERTY(QVariantList menus READ menus CONSTANT)
     Q_PROPERTY(QVariantList shortcuts READ shortcuts CONSTANT)
     Q_PROPERTY(QVariantList offers READ offers NOTIFY offersChanged)
-    Q_PROPERTY(bool contentOffered READ contentOffered NOTIFY offersChanged)
 
   public:
     /// `model` outlives it.
@@ -51,8 +50,6 @@ class MenuCommands final : public QObject {
     Q_INVOKABLE QVariantList entriesFor(int place, const QObject* field) const;
     /// Looks at the text field that has the keyboard.
     Q_INVOKABLE void lookAtField();
-    /// Whether what acts on the main window's content is offered: nothing covers it.
-    [[nodiscard]] bool contentOffered() const { return !now_.covered; }
     /// Whether the command means the window in front, and its keys are heard there alone.
     Q_INVOKABLE static bool meansWindow(velmora::menus::Command command);
 
