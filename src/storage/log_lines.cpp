@@ -177,11 +177,13 @@ LogRepair repairOf(const QByteArray& bytes) {
     return {surplus, isQuoted ? "\"\n" : "\n"};
 }
 
-qsizetype lastPlaceOf(const QByteArray& line, const QByteArray& bytes) {
-    qsizetype place = bytes.lastIndexOf(line);
-    while (place > 0 && bytes[place - 1] != '\n')
-        place = bytes.lastIndexOf(line, place - 1);
-    return place;
+qsizetype lastPlaceOf(const QByteArray& line, const QByteArray& bytes, qsizetype since) {
+    const qsizetype start = std::clamp<qsizetype>(since, 0, bytes.size());
+    const QByteArrayView part = QByteArrayView(bytes).sliced(start);
+    qsizetype place = part.lastIndexOf(line);
+    while (place >= 0 && start + place > 0 && bytes[start + place - 1] != '\n')
+        place = place > 0 ? part.lastIndexOf(line, place - 1) : -1;
+    return place < 0 ? -1 : start + place;
 }
 
 }  // namespace velmora

@@ -50,7 +50,8 @@ struct LogRepair {
 [[nodiscard]] LogRepair repairOf(const QByteArray& bytes);
 
 /// Where the last line of these bytes begins that is `line`, which ends with a line feed; -1 where
-/// there is none.
-[[nodiscard]] qsizetype lastPlaceOf(const QByteArray& line, const QByteArray& bytes);
+/// there is none at `since` or after.
+[[nodiscard]] qsizetype lastPlaceOf(const QByteArray& line, const QByteArray& bytes,
+                                    qsizetype since = 0);
 
 }  // namespace velmora

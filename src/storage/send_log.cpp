@@ -31,23 +31,29 @@ void SendLog::write(const QString& path, std::vector<Change>& changes, Unreadabl
     }
     const LogRepair repair = repairOf(old.value_or(QByteArray()));
     QByteArray kept = old.value_or(QByteArray()).chopped(repair.surplus);
+    const qsizetype size = kept.size();
     QByteArray added = kept.isEmpty() ? logHeader() : repair.ending;
     std::vector<Change> inPlace;
     std::vector<Change> additions;
     for (Change& change : changes) {
-        const QByteArray line = lineOf(change.after);
+        const bool again = change.since.has_value();
+        if (!again)
+            change.since = change.before.isEmpty() ? size : 0;
+        // Those before it may have become shorter.
+        const qsizetype since =
+            *change.since > size ? 0 : *change.since - std::max<qsizetype>(size - kept.size(), 0);
         QByteArray former = change.before;
-        qsizetype place = former.isEmpty() ? -1 : lastPlaceOf(former, kept);
+        qsizetype place = former.isEmpty() ? -1 : lastPlaceOf(former, kept, since);
         change.beforeStands = place >= 0;
         // A write that failed may have left the line in the file, but not on the disk.
-        if (const bool again = std::exchange(change.triedBefore, true); again && place < 0) {
-            former = line;
-            place = lastPlaceOf(former, kept);
+        if (again && place < 0) {
+            former = change.line;
+            place = lastPlaceOf(former, kept, since);
         }
         if (place >= 0)
-            kept.replace(place, former.size(), line);
+            kept.replace(place, former.size(), change.line);
         else
-            added += line;
+            added += change.line;
         (place >= 0 ? inPlace : additions).push_back(std::move(change));
     }
     if (additions.empty())
@@ -69,30 +75,31 @@ void SendLog::write(const QString& path, std::vector<Change>& changes, Unreadabl
 void SendLog::writeBlindly(const QString& path, std::vector<Change>& changes) {
     QByteArray lines("\n");
     for (Change& change : changes) {
-        lines += lineOf(change.after);
-        change.triedBefore = true;
+        lines += change.line;
+        change.since = change.since.value_or(0);
     }
     if (appendToFile(path, lines))
         changes.clear();
 }
 
 void SendLog::append(const LogEntry& entry) {
-    add({.path = logFile(entry.batch), .before = {}, .after = entry});
+    add({logFile(entry.batch), {}, entry, lineOf(entry)});
 }
 
 void SendLog::replace(const LogEntry& before, const LogEntry& after) {
-    add({.path = logFile(after.batch), .before = lineOf(before), .after = after});
+    add({logFile(after.batch), lineOf(before), after, lineOf(after)});
 }
 
 void SendLog::add(Change change) {
     // What it replaces may wait to be written itself.
     const auto earlier = std::ranges::find_if(waiting_, [&change](const Change& each) {
-        return each.path == change.path && lineOf(each.after) == change.before;
+        return each.path == change.path && each.line == change.before;
     });
     if (earlier == waiting_.end()) {
         waiting_.push_back(std::move(change));
     } else {
         earlier->after = std::move(change.after);
+        earlier->line = std::move(change.line);
         // A write that failed may have left it in the file all the same.
         if (earlier->before.isEmpty())
             earlier->before = std::move(change.before);

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QSet>
 #include <QString>
+#include <optional>
 #include <vector>
 
 #include "core/clock.h"
@@ -72,7 +73,9 @@ class SendLog {
         QString path;
         QByteArray before;
         LogEntry after;
-        bool triedBefore = false;
+        QByteArray line;  // of `after`
+        // Where either line stands in the file at the earliest; nothing before the first try.
+        std::optional<qsizetype> since = {};
         bool beforeStands = false;  // in the file, when it was read last
     };
     /// What was found in a file.

@@ -53,8 +53,9 @@ class RehearsalTest : public testing::Test {
 TEST_F(RehearsalTest, ABrokenBookFailsEveryReadWithOneSentence) {
     AddressBook book(home.path());
     for (const QByteArray json :
-         {"{\"contacts\": [", "[]", R"({"contacts": {}})", R"({"contacts": [{"givenName": 5}]})",
-          R"({"contacts": ["c1"]})", R"({"groups": [{"members": [1]}]})", R"({"access": true})",
+         {"{\"contacts\": [", "[]", R"({"a": 1e999})", R"({"contacts": {}})",
+          R"({"contacts": [{"givenName": 5}]})", R"({"contacts": ["c1"]})",
+          R"({"groups": [{"members": [1]}]})", R"({"access": true})",
           R"({"contacts": [{"givenName": "Ann"}, {"givenName": "Bob"}]})"}) {
         home.writeContacts(json);
         const auto people = book.enumerateContacts([](const ContactRecord&) {});

@@ -57,6 +57,9 @@ std::expected<ContactsFile, FileError> ContactsReader::read(const QByteArray& by
     } catch (const json::parse_error& problem) {
         return std::unexpected(FileError{u"The file %1 is no JSON from byte %2 on."_s.arg(
             fileName_, QString::number(problem.byte))});
+    } catch (const json::out_of_range&) {
+        return std::unexpected(
+            FileError{u"A number in the file %1 is beyond all numbers."_s.arg(fileName_)});
     }
     if (error_ && !file_.isDenied)
         return std::unexpected(*error_);
