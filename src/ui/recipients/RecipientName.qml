@@ -11,7 +11,7 @@ Item {
 
     readonly property int gap: 6
     readonly property real nameWidth: nameText.truncated ? nameText.width : nameText.contentWidth
-    readonly property real room: width - (sent.active ? sent.width + gap : 0)
+    readonly property real room: width - (sent.item !== null ? sent.item.width + gap : 0)
 
     implicitHeight: nameText.height
 
@@ -32,13 +32,13 @@ Item {
         color: Theme.colorOf(Look.Tone.secondary, line.entry.faint)
     }
     // Most rows have none.
-    Loader {
+    MadeWhenWanted {
         id: sent
-        active: line.entry.sentText.length > 0
-        x: (companyText.visible ? companyText.x + companyText.width : line.nameWidth) + line.gap
-        y: (nameText.height - height) / 2
+        wanted: line.entry.sentText.length > 0
 
-        sourceComponent: LabelWithSymbol {
+        LabelWithSymbol {
+            x: (companyText.visible ? companyText.x + companyText.width : line.nameWidth) + line.gap
+            y: (nameText.height - height) / 2
             width: implicitWidth
             text: line.entry.sentText
             symbol: "checkmark.seal.fill"

@@ -53,13 +53,13 @@ FocusScope {
     Accessible.onPressAction: recipients.toggle(index)
 
     // One row alone has one.
-    Loader {
+    MadeWhenWanted {
         id: heading
-        x: Theme.padding
-        width: row.width - 2 * x
-        active: row.entry.heading.length > 0
+        wanted: row.entry.heading.length > 0
 
-        sourceComponent: BodyText {
+        BodyText {
+            x: Theme.padding
+            width: row.width - 2 * x
             topPadding: 14
             bottomPadding: 6
             text: row.entry.heading
@@ -88,7 +88,7 @@ FocusScope {
                                      && !passage.activeFocus
     }
     HorizontalDivider {
-        visible: row.index > 0 && !heading.active
+        visible: row.index > 0 && heading.item === null
         x: words.x + content.x
         width: row.width - x - content.anchors.rightMargin
     }
@@ -96,7 +96,7 @@ FocusScope {
     Item {
         id: content
 
-        readonly property real headingHeight: heading.active ? heading.height : 0
+        readonly property real headingHeight: heading.item !== null ? heading.item.height : 0
 
         anchors.fill: parent
         anchors.leftMargin: Theme.padding
