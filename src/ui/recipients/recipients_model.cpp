@@ -91,15 +91,15 @@ void RecipientsModel::followRows() {
 }
 
 std::vector<qsizetype> RecipientsModel::visibleRows() const {
-    std::vector<qsizetype> rows = model_.visibleRecipients();
-    std::ranges::stable_partition(rows, [this](qsizetype index) {
-        return model_.recipients()[static_cast<size_t>(index)].usable;
-    });
+    std::vector<qsizetype> rows;
+    std::vector<qsizetype> blocked;
+    for (const qsizetype index : model_.visibleRecipients())
+        (model_.recipients()[static_cast<size_t>(index)].usable ? rows : blocked).push_back(index);
+    rows.insert(rows.end(), blocked.begin(), blocked.end());
     return rows;
 }
 
 // A part of each row is another.
-
 void RecipientsModel::followSelection() {
     const QSet<QString> before = std::exchange(selection_, model_.selection());
     const QStringList changed = missingFrom(selection_, before) + missingFrom(before, selection_);

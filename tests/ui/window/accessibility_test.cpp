@@ -82,9 +82,9 @@ class Accessibility : public AppHome {
                 const auto role = QVariant::fromValue(each->role()).toString();
                 QString key = role + each->text(QAccessible::Name).section(u',', 0, 0) + action;
                 key.remove(digit);
-                if (action == QAccessibleActionInterface::setFocusAction() || done_.contains(key))
+                if (action == QAccessibleActionInterface::setFocusAction() || done.contains(key))
                     continue;
-                done_.insert(key);
+                done.insert(key);
                 return {each, action};
             }
         }
@@ -93,7 +93,7 @@ class Accessibility : public AppHome {
 
     std::unique_ptr<WindowDriver> user;
 
-    QSet<QString> done_;
+    QSet<QString> done;
 };
 
 // Catches a control without role, name, state or value, a row that is not one element around what
@@ -158,7 +158,7 @@ TEST_F(Accessibility, EveryActionOfEveryControlDoesItsWork) {
         return WindowDriver::windowTitled(u"Settings"_s);
     });
     EXPECT_EQ(idle.join(u'|').toStdString(), "");
-    EXPECT_GT(done_.size(), 50);
+    EXPECT_GT(done.size(), 50);
 }
 
 }  // namespace
