@@ -11,6 +11,7 @@
 
 #include "platform/rehearsal/history_writer.h"
 #include "platform/rehearsal/rehearsal_platform.h"
+#include "storage/config_store.h"
 #include "storage/files.h"
 
 using namespace Qt::StringLiterals;
@@ -89,6 +90,21 @@ QString benchHome(int people, int messages) {
         require(replaceFile(finished, {}).has_value());
     }
     QDir(home + u"/.local"_s).removeRecursively();
+    return home;
+}
+
+QString usedHome(int people) {
+    const QString home = benchHome(people, 1'000);
+    SupportFolder support(home + u"/.local/share"_s);
+    AppConfig config;
+    config.termsAccepted = u"1"_s;
+    config.senderNumber = u"+12125550001"_s;
+    config.selectedGroupID = allContactsID;
+    config.quietStart = u"00:00"_s;
+    config.quietEnd = u"23:59"_s;
+    config.delayMin = config.delayMax = 120;
+    config.templates[allContactsID] = u"Hi {first_name}, are you in?"_s;
+    ConfigStore(support).save(config);
     return home;
 }
 

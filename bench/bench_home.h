@@ -18,6 +18,10 @@ namespace velmora {
 /// long and many short.
 [[nodiscard]] QString benchHome(int people, int messages);
 
+/// The same with 1,000 messages and the settings of somebody who has used it: everyone's list is
+/// chosen, with a message.
+[[nodiscard]] QString usedHome(int people);
+
 /// The application's model on such a home, with virtual time and everyone's list chosen.
 class BenchModel {
   public:

@@ -18,7 +18,6 @@
 #include "bench_home.h"
 #include "core/system_surroundings.h"
 #include "platform/rehearsal/rehearsal_platform.h"
-#include "storage/config_store.h"
 #include "ui/window/main_window.h"
 
 using namespace Qt::StringLiterals;
@@ -94,21 +93,6 @@ class BenchWindow {
     MainWindow main_;
     int frames_ = 0;
 };
-
-QString usedHome() {
-    const QString home = benchHome(10'000, 1'000);
-    SupportFolder support(home + u"/.local/share"_s);
-    AppConfig config;
-    config.termsAccepted = u"1"_s;
-    config.senderNumber = u"+12125550001"_s;
-    config.selectedGroupID = allContactsID;
-    config.quietStart = u"00:00"_s;
-    config.quietEnd = u"23:59"_s;
-    config.delayMin = config.delayMax = 120;
-    config.templates[allContactsID] = u"Hi {first_name}, are you in?"_s;
-    ConfigStore(support).save(config);
-    return home;
-}
 
 /// In a process of its own, which was started at `started`.
 int firstFrame(double started, const QString& home) {
@@ -224,7 +208,7 @@ int main(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
     if (argc == 3)
         return firstFrame(QByteArray(argv[1]).toDouble(), QString::fromUtf8(argv[2]));
-    const QString home = usedHome();
+    const QString home = usedHome(10'000);
     measureFirstFrame(home);
     BenchWindow bench(home);
     bench.untilLoaded();
