@@ -1,7 +1,6 @@
 #include "app_home.h"
 
-namespace velmora {
-namespace {
+using namespace velmora;
 
 class Run : public AppHome {
   protected:
@@ -202,6 +201,3 @@ TEST_F(Run, TestSendSaysWhichLineItUsed) {
         EXPECT_TRUE(result().contains(word)) << word.toStdString();
     }
 }
-
-}  // namespace
-}  // namespace velmora

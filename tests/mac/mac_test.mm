@@ -9,7 +9,7 @@
 #include "platform/mac/native_text.h"
 #include "platform/mac/native_value.h"
 #include "platform/platform.h"
-#include "support/virtual_clock.h"
+#include "support/virtual_surroundings.h"
 
 using namespace Qt::StringLiterals;
 using namespace velmora;

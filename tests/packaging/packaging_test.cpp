@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
@@ -13,8 +12,7 @@
 
 using namespace Qt::StringLiterals;
 
-using velmora::readFile;
-using velmora::writeTestFile;
+using namespace velmora;
 
 namespace {
 
@@ -111,25 +109,6 @@ TEST_F(Package, SignsInsideOutThenNotarisesThenStaples) {
     EXPECT_FALSE(incomplete.output.contains(u"codesign"_s)) << "went on without a library";
 }
 
-TEST_F(Package, WhatIsMissingIsNamedInOneSentence) {
-    EXPECT_TRUE(QFile::remove(path(u"spctl"_s)));
-    const QString taken = path(u"Other.dmg"_s);
-    ASSERT_TRUE(QDir().mkpath(taken));
-    for (const auto& [given, sentence] : std::vector<std::pair<QStringList, QString>>{
-             {{}, u"Name the signing certificate with --identity."_s},
-             {named.first(2), u"Name notarytool's keychain profile with --profile."_s},
-             {{u"--profile"_s}, u"The argument --profile needs a value."_s},
-             {named.first(7) + QStringList(taken),
-              taken + u" cannot be the disk image; name a file ending in .dmg with --output."_s},
-             {named,
-              u"The tool spctl is missing; packaging takes a Mac with Xcode's command line "
-              "tools and Qt."_s}}) {
-        const Outcome refused = run(u"package"_s, given);
-        EXPECT_EQ(refused.code, 1);
-        EXPECT_EQ(refused.errors, sentence);
-    }
-}
-
 // Catches a check that passes a bundle that other Macs cannot start, or one it cannot read.
 TEST_F(Package, ABundleThatDoesNotStartEverywhereIsRefused) {
     writeTestFile(path(u"libB.dylib"_s), "");
@@ -173,19 +152,6 @@ TEST(Bundle, AsksForWhatItUsesAndSaysWhy) {
           ">com.apple.security.automation.apple-events</key>\n    <true/>",
           ">com.apple.security.personal-information.addressbook</key>\n    <true/>"})
         EXPECT_TRUE(all.contains(held)) << held;
-}
-
-TEST(Icon, EverySizeOfTheSetIsDrawn) {
-    const QTemporaryDir folder;
-    ASSERT_EQ(QProcess::execute(QStringLiteral(VELMORA_ICON_SET), {folder.path()}), 0);
-    for (const int points : {16, 32, 128, 256, 512}) {
-        for (const QString& scale : {u""_s, u"@2x"_s}) {
-            const QImage image(folder.filePath(u"icon_%1x%1%2.png"_s.arg(points).arg(scale)));
-            EXPECT_EQ(image.width(), scale.isEmpty() ? points : points * 2);
-            EXPECT_GT(image.pixelColor(image.rect().center()).alpha(), 200);
-            EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0) << "the corners are not rounded";
-        }
-    }
 }
 
 }  // namespace

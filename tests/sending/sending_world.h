@@ -11,7 +11,6 @@
 #include "storage/log_lines.h"
 #include "support/rehearsal_home.h"
 #include "support/virtual_surroundings.h"
-#include "support/watched_scripts.h"
 
 namespace velmora {
 

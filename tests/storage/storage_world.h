@@ -12,7 +12,7 @@
 #include "storage/files.h"
 #include "storage/send_log.h"
 #include "support/rehearsal_home.h"
-#include "support/virtual_clock.h"
+#include "support/virtual_surroundings.h"
 
 namespace velmora {
 

@@ -10,7 +10,6 @@
 #include "platform/rehearsal/script_parser.h"
 #include "support/rehearsal_home.h"
 #include "support/virtual_surroundings.h"
-#include "support/watched_scripts.h"
 
 namespace velmora {
 

@@ -4,12 +4,14 @@
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
 #include <vector>
 
 #include "platform/rehearsal/history_writer.h"
+#include "sending/script_runner.h"
 
 namespace velmora {
 
@@ -20,6 +22,21 @@ void writeTestFile(const QString& path, const QByteArray& bytes);
 
 /// Runs `sql` on the history at `path` as some other program would, whose connection this returns.
 std::unique_ptr<sqlite3, int (*)(sqlite3*)> changeHistory(const QString& path, const char* sql);
+
+/// Passes scripts on to Messages, counts them, and lets a test look at each before.
+struct WatchedScripts final : ScriptRunner {
+    explicit WatchedScripts(ScriptRunner& messages) : messages(messages) {}
+    [[nodiscard]] ScriptResult run(const QString& source) override {
+        ++count;
+        if (before)
+            before(source);
+        return messages.run(source);
+    }
+
+    int count = 0;
+    std::function<void(const QString& source)> before;
+    ScriptRunner& messages;
+};
 
 /// A home folder of the test's own, with an address book, the settings of Messages and a history.
 class RehearsalHome {

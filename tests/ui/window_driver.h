@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "app/app_model.h"
-#include "support/virtual_clock.h"
+#include "support/virtual_surroundings.h"
 #include "ui/window/main_window.h"
 
 namespace velmora {

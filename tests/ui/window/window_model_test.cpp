@@ -4,25 +4,21 @@
 #include <QSignalSpy>
 
 #include "app/app_home.h"
-#include "ui/first_run/first_run_model.h"
-#include "ui/sidebar/sidebar_model.h"
+#include "ui/look/drawn_look.h"
+#include "ui/look/system_appearance.h"
 #include "ui/window/main_window.h"
+#include "ui/window/presentation.h"
 
-namespace velmora {
-namespace {
+using namespace velmora;
 
 using WindowModels = AppHome;
 
-// Catches a count that lags behind the model, or a zero shown where there is nothing to count; a
-// sidebar that keeps an old count, or is rebuilt (and scrolled back) for a mere count.
+// Catches a count that lags behind the model, or a zero shown where there is nothing to count.
 TEST_F(WindowModels, CountsFollowTheAddressBook) {
     friends({ann, bob, person(u"cid"_s, u"Cid"_s, u"Ray"_s)});
     withFriends();
     const MainWindowModel window(*model);
-    const SidebarModel sidebar(*model);
     const QSignalSpy changes(&window, &MainWindowModel::changed);
-    const QSignalSpy resets(&sidebar, &SidebarModel::modelReset);
-    const QSignalSpy counts(&sidebar, &SidebarModel::dataChanged);
     model->setSelected(u"ann"_s, true);
     EXPECT_GE(changes.size(), 1);
     EXPECT_EQ(window.subtitle(), u"1 of 3 selected \u00B7 1 need attention")
@@ -30,13 +26,10 @@ TEST_F(WindowModels, CountsFollowTheAddressBook) {
     friends({});
     model->loadList();
     EXPECT_EQ(window.subtitle(), u"");
-    EXPECT_EQ(sidebar.index(1).data(SidebarModel::countRole), 0);
-    EXPECT_EQ(counts.size(), 2);
-    EXPECT_EQ(resets.size(), 0);
 }
 
-// Catches a second start-up when the window is hidden and shown again; a look at the history that
-// was not needed, or that names a wrong time; a window left in the Dock, or a large one made small.
+// Catches a second start-up when the window is hidden and shown again, a look at the history that
+// was not needed, and a window left in the Dock, or a large one made small.
 TEST_F(WindowModels, StartOnceAndComeBackAsTheyWere) {
     MainWindowModel window(open());
     for (const bool first : {true, false}) {
@@ -51,12 +44,6 @@ TEST_F(WindowModels, StartOnceAndComeBackAsTheyWere) {
         window.applicationActivated();
         EXPECT_EQ(model->numbersCheckedAt.value().has_value(), !readable);
     }
-    FirstRunModel sheet(*model);
-    EXPECT_EQ(sheet.checkedText(), QString());
-    model->numbers = std::vector<NumberInfo>();
-    world.clock.advance(60);
-    const auto american = speaking(u"en_US"_s);
-    EXPECT_EQ(sheet.checkedText().simplified(), u"Checked at 11:00:02 AM. Still nothing found."_s);
     MainWindow main(*model);
     main.show();
     main.window().setWindowStates(Qt::WindowMaximized | Qt::WindowMinimized);
@@ -70,18 +57,11 @@ TEST_F(WindowModels, ARunIsClosedOnlyByTheEndOfTheSession) {
     model->startRun();
     MainWindowModel window(*model);
     const QSignalSpy attention(&window, &MainWindowModel::attentionWanted);
-    model->alert = u"Call (212) 555-0101."_s;
+    model->alert = u"Something is wrong."_s;
     EXPECT_FALSE(window.mayClose());
     EXPECT_TRUE(window.alert().message.startsWith(u"3 people would not be texted."));
     window.dismissAlert();
-    EXPECT_EQ(window.alert().message, u"Call (212)\u00A0555-0101."_s);
-    window.dismissAlert();
-    EXPECT_FALSE(window.alertShown());
-    model->runner().done = 3;
-    EXPECT_FALSE(window.mayClose());
-    EXPECT_TRUE(window.alert().message.startsWith(u"Every text has gone out"));
-    window.dismissAlert();
-    model->runner().done = 0;
+    EXPECT_EQ(window.alert().message, u"Something is wrong.");
     // What the desktop announces; nobody looks at what comes with it.
     QMetaObject::invokeMethod(qApp, "commitDataRequest",
                               QGenericArgument("QSessionManager&", qApp));
@@ -91,5 +71,90 @@ TEST_F(WindowModels, ARunIsClosedOnlyByTheEndOfTheSession) {
     EXPECT_EQ(attention.size(), 1);
 }
 
-}  // namespace
-}  // namespace velmora
+/// What a desktop with title bars, colours and habits of its own says, and hears.
+struct SystemLook final : DrawnLook {
+    [[nodiscard]] bool nativeTitle() const override { return true; }
+    [[nodiscard]] bool staysWithoutWindow() const override { return true; }
+    [[nodiscard]] QColor accent() const override { return still ? Qt::green : Qt::magenta; }
+    [[nodiscard]] bool reducesMotion() const override { return still; }
+    void showSubtitle(QWindow&, const QString& shown) const override { subtitle = shown; }
+    void whenChanged(std::function<void()> action) override { changed = std::move(action); }
+
+    bool still = false;
+    mutable QString subtitle;
+    std::function<void()> changed;
+};
+
+// Catches a second header under the system's own title bar, one without its subtitle, a colour or a
+// wish for stillness that counts from the next start on, and an application that ends with its
+// window where none does.
+TEST_F(WindowModels, ADesktopsOwnTitleBarColourAndHabitsAreUsed) {
+    withFriends();
+    auto* const look = new SystemLook;
+    MainWindow main(*model, std::unique_ptr<NativeLook>(look));
+    QQuickWindow& window = main.window();
+    const int bar = window.minimumHeight() - 580;
+    main.show();
+    EXPECT_EQ(window.minimumWidth(), 960);
+    EXPECT_EQ(window.size(), QSize(1240, 740 + bar)) << "a header of our own is in the way";
+    EXPECT_LT(bar, 40) << "as high as a menu bar";
+    EXPECT_EQ(window.title(), u"Friends");
+    model->setSelected(u"ann"_s, true);
+    EXPECT_EQ(look->subtitle, u"1 of 3 selected");
+
+    auto* appearance = qmlEngine(&window)->singletonInstance<SystemAppearance*>(
+        qmlTypeId("Velmora", 1, 0, "SystemAppearance"));
+    EXPECT_EQ(appearance->accent(), Qt::magenta);
+    EXPECT_TRUE(appearance->animated());
+    look->still = true;
+    look->changed();
+    EXPECT_EQ(appearance->accent(), Qt::green);
+    EXPECT_FALSE(appearance->animated());
+    window.close();
+    EXPECT_FALSE(window.isVisible() || QGuiApplication::quitOnLastWindowClosed());
+    QGuiApplication::setQuitOnLastWindowClosed(true);
+}
+
+// Catches a command that reaches under a sheet or the alert, a key that two things claim in a pause
+// or that is taken from a text field, and a bar that is not told.
+TEST_F(WindowModels, OffersFollowWhatIsOnTheScreen) {
+    Presentation presentation(started());
+    MenuCommands& menus = *presentation.menus();
+    const QSignalSpy told(&menus, &MenuCommands::offersChanged);
+    const auto heard = [&menus] {
+        QStringList keys;
+        for (const QVariant& each : menus.shortcuts()) {
+            const auto place = static_cast<qsizetype>(each.value<MenuEntry>().command);
+            const auto offer = menus.offers().value(place).value<MenuEntry>();
+            if (offer.enabled)
+                keys += offer.sequences();
+        }
+        return keys.join(u' ').toStdString();
+    };
+    const std::string all =
+        "Ctrl+, Ctrl+Q Ctrl+W Ctrl+F Ctrl+Shift+A Ctrl+Shift+D Ctrl+R Ctrl+Return Ctrl+Enter "
+        "Ctrl+M";
+    const std::string noFind = "Ctrl+, Ctrl+Q Ctrl+W Ctrl+Shift+A Ctrl+Shift+D Ctrl+R";
+    const std::string covered = noFind + " Ctrl+Return Ctrl+Enter Ctrl+M";
+    EXPECT_EQ(heard(), covered) << "the terms";
+    const std::vector<std::tuple<std::function<void()>, std::string, bool>> steps = {
+        {[&] { model->acceptTerms(); }, all, true},
+        {[&] { model->alert = u"No."_s; }, covered, false},
+        {[&] { model->alert = std::nullopt; }, all, true},
+        {[&] { model->confirmingRun = true; }, covered, false},
+        {[&] { model->confirmingRun = false; }, all, true},
+        {[&] { model->runner().state = Runner::State::paused; }, noFind + " Ctrl+M", false},
+        {[&] { model->runner().state = Runner::State::idle; }, all, true},
+        {[&] { model->contactsAllowed = false; }, covered, true},
+        {[&] { model->contactsAllowed = true; }, all, true},
+    };
+    for (const auto& [change, keys, selects] : steps) {
+        const qsizetype before = told.size();
+        change();
+        EXPECT_GT(told.size(), before) << keys;
+        EXPECT_EQ(heard(), keys);
+        model->setSelection({});
+        menus.run(menus::Command::selectShown);
+        EXPECT_EQ(!model->selection().isEmpty(), selects) << keys;
+    }
+}
