@@ -73,6 +73,8 @@ TEST_F(WindowModels, ARunIsClosedOnlyByTheEndOfTheSession) {
     model->alert = u"Call (212) 555-0101."_s;
     EXPECT_FALSE(window.mayClose());
     EXPECT_TRUE(window.alert().message.startsWith(u"3 people would not be texted."));
+    world.clock.advance(0.1);
+    EXPECT_TRUE(window.alert().message.startsWith(u"2 people would not be texted."));
     window.dismissAlert();
     EXPECT_EQ(window.alert().message, u"Call (212)\u00A0555-0101."_s);
     window.dismissAlert();
