@@ -46,6 +46,8 @@ TEST_F(MenuCommandsTest, OffersFollowWhatIsOnTheScreen) {
         const auto& [change, keys, selects] = steps[step];
         change();
         EXPECT_EQ(heard(), keys) << step;
+        const auto send = menus.entriesFor(3, nullptr).constLast().value<MenuEntry>();
+        EXPECT_EQ(send.keys().isEmpty(), model->runner().state == Runner::State::paused) << step;
         EXPECT_GT(told.size(), before) << step;
         model->setSelection({});
         menus.run(menus::Command::selectShown);
