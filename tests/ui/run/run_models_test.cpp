@@ -68,7 +68,7 @@ TEST_F(RunModels, TheComposerAndTheSendSectionFollowTheRun) {
     model->setSenderNumber(myOtherLine);
     EXPECT_EQ(announced.size(), 1);
 
-    EXPECT_FALSE(run.canSend() || run.showsStatus() || run.showsActivity());
+    EXPECT_FALSE(run.canSend() || !run.status().isEmpty() || run.showsActivity());
     model->selectShown();
     model->startRun();
     world.clock.advance(0.1);
