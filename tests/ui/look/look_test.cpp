@@ -9,7 +9,6 @@
 #include <cmath>
 #include <memory>
 #include <numeric>
-#include <utility>
 #include <vector>
 
 #include "ui/first_run/full_disk_access_timeline.h"
