@@ -13,7 +13,6 @@
 #include <cstdio>
 #include <ctime>
 #include <functional>
-#include <optional>
 
 #include "bench_home.h"
 #include "core/system_surroundings.h"

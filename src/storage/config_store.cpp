@@ -63,8 +63,8 @@ std::optional<QString> ConfigStore::save(const AppConfig& config) {
         if (!moveAside(configFile(folder_), kept))
             return std::nullopt;
         sentence =
-            u"Velmora couldn't %1 its settings file, which is kept as \"%2\", and starts with new settings."_s
-                .arg(unused_, kept);
+            u"Velmora couldn't %1 its settings file, which is kept as \"%2\", and starts with new "
+            "settings."_s.arg(unused_, kept);
         unused_.clear();
     }
     static_cast<void>(replaceFile(configFile(folder_), *json));

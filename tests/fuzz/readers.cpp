@@ -3,7 +3,6 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QTemporaryDir>
-#include <algorithm>
 
 #include "compose/template_renderer.h"
 #include "core/phone.h"

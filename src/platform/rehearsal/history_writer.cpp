@@ -4,7 +4,6 @@
 
 #include <QFileInfo>
 #include <QUuid>
-#include <utility>
 
 #include "platform/rehearsal/history_schema.h"
 

@@ -3,7 +3,6 @@
 #include <sys/stat.h>
 
 #include <QFile>
-#include <QtGlobal>
 #include <algorithm>
 #include <utility>
 

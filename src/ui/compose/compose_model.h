@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QObject>
-#include <QStringList>
+#include <QString>
 #include <QVariantList>
 #include <QtQmlIntegration>
 

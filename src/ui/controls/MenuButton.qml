@@ -4,7 +4,7 @@ import QtQuick.Layouts
 import Velmora
 
 /// A button that opens a menu of actions, or of choices with a mark on the one at `markedIndex`. An
-/// entry is a text or `{text, symbol, separator, enabled}`; its place in `entries` is told by
+/// entry is a text or `{text, separator, enabled}`; its place in `entries` is told by
 /// `chosen`.
 MenuOpener {
     id: button

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Velmora
 
-/// One line of a pop-up menu: a choice with its mark or symbol, or a separator.
+/// One line of a pop-up menu: a choice with its mark, or a separator.
 Item {
     id: row
 
@@ -16,7 +16,6 @@ Item {
 
     readonly property bool separator: modelData.separator ?? false
     readonly property string title: separator ? "" : modelData.text ?? modelData
-    readonly property string symbol: modelData.symbol ?? ""
     readonly property string keys: modelData.keys ?? ""
     readonly property bool selectable: !separator && (modelData.enabled ?? true)
     readonly property color tint: highlighted ? Theme.overAccent
@@ -67,9 +66,9 @@ Item {
 
         SymbolIcon {
             Layout.preferredWidth: 14
-            visible: row.marksColumn || row.symbol.length > 0
-            name: row.marked ? "checkmark" : row.symbol
-            weight: row.marked ? "bold" : "regular"
+            visible: row.marksColumn
+            name: row.marked ? "checkmark" : ""
+            weight: "bold"
             size: 14
             color: row.tint
         }

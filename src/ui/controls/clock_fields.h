@@ -13,7 +13,6 @@ class ClockFields : public QObject {
     QML_ELEMENT
     Q_PROPERTY(int hour READ hour WRITE setHour NOTIFY changed)
     Q_PROPERTY(int minute READ minute WRITE setMinute NOTIFY changed)
-    Q_PROPERTY(bool twelveHour READ twelveHour CONSTANT)
     Q_PROPERTY(bool halfFirst READ halfFirst CONSTANT)
     Q_PROPERTY(bool halfLast READ halfLast CONSTANT)
     Q_PROPERTY(QString separator READ separator CONSTANT)
@@ -31,7 +30,6 @@ class ClockFields : public QObject {
     [[nodiscard]] int minute() const { return minute_; }
     void setMinute(int minute);
 
-    [[nodiscard]] bool twelveHour() const { return twelveHour_; }
     /// Whether the half of the day stands before the hours, or after the minutes. Neither where the
     /// language counts to twenty-four.
     [[nodiscard]] bool halfFirst() const { return twelveHour_ && halfFirst_; }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "app/app_model.h"
 
 namespace velmora {

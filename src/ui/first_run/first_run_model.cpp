@@ -49,12 +49,10 @@ QStringList FirstRunModel::numbers() const {
 QString FirstRunModel::senderText() const {
     if (numbersFound())
         return u"Velmora sends through Messages, from your own number. Choose it once. You can "
-               u"change "
-               "it later in Settings."_s;
+               "change it later in Settings."_s;
     return u"Velmora couldn't find a number on this Mac. Open Messages, choose Settings, then "
            "iMessage, and tick your phone number under \"You can be reached for messages at\". "
-           "Then "
-           "check again."_s;
+           "Then check again."_s;
 }
 
 QString FirstRunModel::checkedText() const {

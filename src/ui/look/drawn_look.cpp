@@ -1,7 +1,6 @@
 #include "ui/look/drawn_look.h"
 
 #include <QFile>
-#include <QLoggingCategory>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <algorithm>

@@ -151,30 +151,31 @@ QVariantList MenuCommands::shortcuts() const {
 
 QVariantList MenuCommands::offers() const {
     QVariantList offered;
-    for (MenuEntry& item : itemsOf(menus())) {
-        item.enabled = isOffered(item.command, field_);
-        if (item.command == Command::send && now_.paused)
-            item.shortcut.clear();
+    for (const MenuEntry& item : itemsOf(menus())) {
         const auto place = static_cast<qsizetype>(item.command);
         offered.resize(std::max(offered.size(), place + 1));
-        offered[place] = QVariant::fromValue(item);
+        offered[place] = QVariant::fromValue(asOffered(item, field_));
     }
     return offered;
 }
 
 QVariantList MenuCommands::entriesFor(int place, const QObject* field) const {
     QVariantList entries = menus().value(place).value<Menu>().entries;
-    for (QVariant& each : entries) {
-        auto entry = each.value<MenuEntry>();
-        entry.enabled = isOffered(entry.command, field);
-        each = QVariant::fromValue(entry);
-    }
+    for (QVariant& each : entries)
+        each = QVariant::fromValue(asOffered(each.value<MenuEntry>(), field));
     return entries;
 }
 
 void MenuCommands::lookAtField() {
     field_ = QGuiApplication::focusObject();
     Q_EMIT offersChanged();
+}
+
+MenuEntry MenuCommands::asOffered(MenuEntry item, const QObject* field) const {
+    item.enabled = isOffered(item.command, field);
+    if (item.command == Command::send && now_.paused)
+        item.shortcut.clear();
+    return item;
 }
 
 bool MenuCommands::isOffered(Command command, const QObject* field) const {

@@ -76,6 +76,7 @@ class MenuCommands final : public QObject {
 
     void follow();
     void become(Circumstances circumstances);
+    [[nodiscard]] MenuEntry asOffered(MenuEntry item, const QObject* field) const;
     [[nodiscard]] bool isOffered(menus::Command command, const QObject* field) const;
 
     AppModel& model_;

@@ -1,6 +1,7 @@
 #include "ui/recipients/recipients_model.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "ui/recipients/row_changes.h"
 

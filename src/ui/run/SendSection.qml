@@ -30,7 +30,7 @@ ColumnLayout {
     }
     StatusLine {
         Layout.fillWidth: true
-        visible: section.ready && section.model.showsStatus && text.length > 0
+        visible: section.ready && text.length > 0
     }
     // Keeps the room of two lines through the whole run, and so the buttons in their place.
     Item {

@@ -41,13 +41,6 @@ bool RunModel::canSend() const {
     return !model_.selection().isEmpty();
 }
 
-bool RunModel::showsStatus() const {
-    const Runner& runner = model_.runner();
-    const bool hasNews = runner.state == Runner::State::done || !runner.message.value().isEmpty() ||
-                         runner.total >= 1;
-    return stage() == Stage::ready ? hasNews : stage() != Stage::stopping;
-}
-
 QString RunModel::status() const {
     return statusLine(model_.runner());
 }

@@ -18,7 +18,6 @@ class RunModel final : public QObject {
     Q_PROPERTY(Stage stage READ stage NOTIFY stageChanged)
     Q_PROPERTY(QString sendTitle READ sendTitle NOTIFY sendChanged)
     Q_PROPERTY(bool canSend READ canSend NOTIFY sendChanged)
-    Q_PROPERTY(bool showsStatus READ showsStatus NOTIFY statusChanged)
     Q_PROPERTY(QString status READ status NOTIFY statusChanged)
     Q_PROPERTY(double progress READ progress NOTIFY statusChanged)
     Q_PROPERTY(double progressTotal READ progressTotal NOTIFY statusChanged)
@@ -37,8 +36,6 @@ class RunModel final : public QObject {
     [[nodiscard]] QString sendTitle() const;
     /// Whether anyone is checked.
     [[nodiscard]] bool canSend() const;
-    /// Whether there is room for the status, which may still be empty.
-    [[nodiscard]] bool showsStatus() const;
     /// How the run stands, in words; empty when there is nothing to say.
     [[nodiscard]] QString status() const;
     /// How many of the run's people are done, of `progressTotal`.

@@ -25,6 +25,11 @@ MainWindowModel::MainWindowModel(AppModel& model) : model_(model) {
     announce(&AppModel::skippedSenderSetupChanged);
     connect(&model_, &AppModel::alertChanged, this, &MainWindowModel::followAlert);
     connect(&model_.runner(), &Runner::stateChanged, this, &MainWindowModel::followRun);
+    // With each person in hand, one fewer is left.
+    connect(&model_.runner(), &Runner::currentChanged, this, [this] {
+        if (asksToQuit_)
+            followAlert();
+    });
     connect(&model_, &AppModel::settingsRequested, this, &MainWindowModel::settingsRequested);
     followAlert();
 }

@@ -56,4 +56,13 @@ TEST_F(RunModels, TheComposerInsertsAndAnnouncesOnlyItsNumber) {
     EXPECT_EQ(announced.size(), 0);
     model->setSenderNumber(myOtherLine);
     EXPECT_EQ(announced.size(), 1);
+
+    const RunModel run(*model);
+    model->selectShown();
+    model->startRun();
+    world.clock.advance(0.1);
+    EXPECT_EQ(run.status(), u"0 of 3 \u00B7 Sending to Ann Lee\u2026"_s);
+    world.clock.advance(25);
+    EXPECT_TRUE(run.status().startsWith(u"1 of 3 \u00B7 Next in "_s)) << run.status().toStdString();
+    EXPECT_EQ(run.progress() / run.progressTotal(), 1.0 / 3);
 }

@@ -60,6 +60,8 @@ TEST_F(WindowModels, ARunIsClosedOnlyByTheEndOfTheSession) {
     model->alert = u"Something is wrong."_s;
     EXPECT_FALSE(window.mayClose());
     EXPECT_TRUE(window.alert().message.startsWith(u"3 people would not be texted."));
+    world.clock.advance(0.1);
+    EXPECT_TRUE(window.alert().message.startsWith(u"2 people would not be texted."));
     window.dismissAlert();
     EXPECT_EQ(window.alert().message, u"Something is wrong.");
     // What the desktop announces; nobody looks at what comes with it.
@@ -153,6 +155,8 @@ TEST_F(WindowModels, OffersFollowWhatIsOnTheScreen) {
         change();
         EXPECT_GT(told.size(), before) << keys;
         EXPECT_EQ(heard(), keys);
+        const auto send = menus.entriesFor(3, nullptr).constLast().value<MenuEntry>();
+        EXPECT_EQ(send.keys().isEmpty(), model->runner().state == Runner::State::paused) << keys;
         model->setSelection({});
         menus.run(menus::Command::selectShown);
         EXPECT_EQ(!model->selection().isEmpty(), selects) << keys;
