@@ -35,6 +35,14 @@ FocusScope {
             clock.stepHour(delta);
     }
 
+    // What stands between hours and minutes leads from one to the other.
+    function goOn(character: string): bool {
+        const ends = character === clock.separator;
+        if (ends)
+            minutes.forceActiveFocus(Qt.OtherFocusReason);
+        return ends;
+    }
+
     implicitWidth: line.implicitWidth + 8 + 4 + arrows.implicitWidth
     implicitHeight: Theme.controlHeight
     opacity: enabled ? 1 : Theme.disabledOpacity
@@ -88,7 +96,7 @@ FocusScope {
                 maximumValue: 23
                 accessibleName: picker.accessibleName + " hour"
                 onStepped: delta => clock.stepHour(delta)
-                take: character => clock.typeHour(character)
+                take: character => clock.typeHour(character) || picker.goOn(character)
                 onActiveFocusChanged: clock.endTyping()
                 Keys.onLeftPressed: if (clock.halfFirst) halfFirst.forceActiveFocus(Qt.OtherFocusReason)
                 Keys.onRightPressed: minutes.forceActiveFocus(Qt.OtherFocusReason)

@@ -28,6 +28,8 @@ T.Popup {
     property bool pointed: false
     /// The way in which the pointer at the frame's edge scrolls: -1 up, 1 down.
     property int creeping: 0
+    /// The window's own menu bar, which lies over the menu.
+    readonly property Item bar: T.ApplicationWindow.menuBar
 
     signal chosen(int index)
     signal sideways(int delta)
@@ -86,6 +88,7 @@ T.Popup {
     modal: true
     dim: false
     margins: 6
+    topMargin: margins + (bar?.visible ? bar.height : 0)
     padding: 5
     implicitWidth: column.implicitWidth + leftPadding + rightPadding
     implicitHeight: column.implicitHeight + topPadding + bottomPadding

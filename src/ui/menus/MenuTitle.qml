@@ -68,6 +68,7 @@ Item {
         // Over the alert.
         z: 2
         y: title.height + 2
+        topMargin: margins
         modal: false
         visible: title.open
         onAboutToHide: if (title.opened >= 0 && !title.open) focusedBefore = null

@@ -35,6 +35,12 @@ FocusScope {
         return activeFocus;
     }
 
+    // When it comes again, it comes to the row.
+    function pass() {
+        Window.activeFocusItem.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason);
+        focus = false;
+    }
+
     implicitHeight: childrenRect.height
 
     // Most rows need neither, and making a field is what costs.
@@ -52,6 +58,7 @@ FocusScope {
             onClicked: line.enter()
             Keys.onEscapePressed: line.finished()
             Keys.onLeftPressed: line.finished()
+            Keys.onTabPressed: line.pass()
             Keys.onBacktabPressed: line.finished()
         }
     }
@@ -75,6 +82,7 @@ FocusScope {
             Keys.onReturnPressed: line.finished()
             Keys.onEnterPressed: line.finished()
             Keys.onEscapePressed: line.finished()
+            Keys.onTabPressed: line.pass()
             Keys.onBacktabPressed: line.finished()
         }
     }

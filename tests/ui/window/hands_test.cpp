@@ -195,6 +195,14 @@ TEST_F(Hands, OnlyWhatIsMeantIsChosen) {
         user.key(Qt::Key_Z, command);
         EXPECT_EQ(model->currentTemplate(), left);
     }
+    // The menu bar lies over what has no room under it.
+    std::vector<NumberInfo> many(60, {u"+1"_s, 1});
+    many.front().number = myLine;
+    model->numbers = many;
+    const QString mine = u"(212) 555-9999"_s;
+    user.click(mine, QAccessible::ButtonMenu);
+    EXPECT_GE(user.area(mine, QAccessible::MenuItem).top(), 28);
+    user.key(Qt::Key_Escape);
     model->openSettings();
     user.settle();
     // So many that those before the chosen one have no room above it, and one that the window is
