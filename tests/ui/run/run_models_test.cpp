@@ -4,6 +4,7 @@
 #include "ui/compose/compose_model.h"
 #include "ui/run/activity_model.h"
 #include "ui/run/run_display.h"
+#include "ui/run/run_model.h"
 
 using namespace velmora;
 
@@ -45,8 +46,9 @@ TEST(RunDisplay, AnEntryAndThePaceAreWords) {
     EXPECT_EQ(paceLine(config), u"45 to 9223372036854776000 seconds apart"_s);
 }
 
-// Catches inserts at the wrong place, and a number menu that is rebuilt for every letter.
-TEST_F(RunModels, TheComposerInsertsAndAnnouncesOnlyItsNumber) {
+// Catches inserts at the wrong place, a number menu that is rebuilt for every letter, and a send
+// section that hides how the run stands.
+TEST_F(RunModels, TheComposerAndTheSendSectionFollow) {
     ComposeModel compose(withFriends());
     const QSignalSpy announced(&compose, &ComposeModel::senderChanged);
     compose.setMessage(QString());
@@ -57,6 +59,7 @@ TEST_F(RunModels, TheComposerInsertsAndAnnouncesOnlyItsNumber) {
     model->setSenderNumber(myOtherLine);
     EXPECT_EQ(announced.size(), 1);
 
+    home.writeMessages(messagesOnLine(myOtherLine));
     const RunModel run(*model);
     model->selectShown();
     model->startRun();
