@@ -19,7 +19,7 @@ FocusScope {
     readonly property TextEdit selection: maker.item as TextEdit
     readonly property bool selects: selection !== null && selection.selectedText.length > 0
 
-    implicitHeight: shown.height
+    implicitHeight: shown.implicitHeight
     // Of the two below one is always transparent, which counts as gone.
     Accessible.role: Accessible.StaticText
     Accessible.name: text

@@ -13,7 +13,7 @@ Item {
     readonly property real nameWidth: nameText.truncated ? nameText.width : nameText.contentWidth
     readonly property real room: width - (sent.item ? sent.item.width + gap : 0)
 
-    implicitHeight: nameText.height
+    implicitHeight: nameText.implicitHeight
 
     LineText {
         id: nameText
